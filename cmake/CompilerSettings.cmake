@@ -1,0 +1,14 @@
+# Warnings are errors in every target of ours; include directories of libraries are system directories.
+add_library(mavCycEd_compiler_settings INTERFACE)
+target_compile_options(mavCycEd_compiler_settings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+
+if(MAVCYCED_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# Builds one of our targets with the project's settings. Private: nothing of it reaches those who link the target.
+function(mavcyced_settings target)
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:mavCycEd_compiler_settings>)
+endfunction()

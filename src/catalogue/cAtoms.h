@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "catalogue/cAtom.h"
+
+namespace mavCycEd {
+
+/// The atom lines of a cycle, in order; a line may also be looked up by a text key (compared without regard to case).
+/// Positions count from 1. A position out of range is run-time error 9, an unknown key 5, a key in use 457.
+class cAtoms {
+  struct Element {
+    std::unique_ptr<cAtom> atom;
+    std::string key;  // case-folded; empty: the atom has no key
+  };
+  using Elements = std::vector<Element>;
+
+ public:
+  /// Walks the atoms in order.
+  class Enumerator {
+   public:
+    using difference_type = std::ptrdiff_t;
+    using value_type = cAtom;
+    explicit Enumerator(Elements::const_iterator at) : at_(at) {}
+    cAtom& operator*() const { return *at_->atom; }
+    cAtom* operator->() const { return at_->atom.get(); }
+    Enumerator& operator++() {
+      ++at_;
+      return *this;
+    }
+    bool operator==(const Enumerator& other) const { return at_ == other.at_; }
+
+   private:
+    Elements::const_iterator at_;
+  };
+  /// What NewEnum() gives: a range over the atoms.
+  struct Range {
+    Enumerator first, last;
+    Enumerator begin() const { return first; }
+    Enumerator end() const { return last; }
+  };
+
+  /// Adds an atom line at the end and gives it back; an empty key adds it without a key. A key in use fails and leaves
+  /// the collection as it was.
+  cAtom& Add(std::string AtomName, std::string Duration, std::string GroupIndex, Variant AtomParameters,
+             std::string_view sKey = {});
+
+  cAtom& Item(int position) const;
+  cAtom& Item(std::string_view key) const;
+  int Count() const { return static_cast<int>(elements_.size()); }
+  /// Removes an atom line; those behind it move up by one.
+  void Remove(int position);
+  void Remove(std::string_view key);
+  /// Removes all atom lines.
+  void Clear() { elements_.clear(); }
+
+  Range NewEnum() const { return {begin(), end()}; }
+  Enumerator begin() const { return Enumerator(elements_.begin()); }
+  Enumerator end() const { return Enumerator(elements_.end()); }
+
+ private:
+  std::size_t indexOf(int position) const;
+  std::size_t indexOf(std::string_view key) const;
+
+  Elements elements_;
+};
+
+}  // namespace mavCycEd

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "catalogue/AtomListProvider.h"
+#include "catalogue/cAtoms.h"
+#include "control/ControlScreen.h"
+#include "control/CycleEditorErrorEvent.h"
+#include "control/PlatformServices.h"
+#include "paramgrid/ParamRowTable.h"
+
+namespace mavCycEd {
+
+/// The editor control without a window: its public interface, its state, and the procedures behind its screen. An
+/// edition makes the screen and the services and gives them to this class; everything else happens here.
+///
+/// All members run on the user-interface thread. No exception leaves a member: failures reach the host through the
+/// CycleEditorError handler.
+class EditorControl {
+ public:
+  /// Starts the control on a screen: captions and titles are set, the timer is off, nothing is loaded. Without a
+  /// provider the control makes its own, which draws on the configuration text.
+  EditorControl(const ControlScreen& screen, const PlatformServices& services, CycleEditorErrorHandler onError,
+                std::shared_ptr<AtomListProvider> provider = nullptr);
+  ~EditorControl();
+  EditorControl(const EditorControl&) = delete;
+  EditorControl& operator=(const EditorControl&) = delete;
+
+  /// Stores the configuration document; it is parsed when a question needs it.
+  void SetConfigXML(std::string strConfigXml);
+  /// Loads the catalogue and a cycle (a cycle document, a macro text, or nothing) and fills the screen. Whatever was
+  /// loaded before is gone.
+  void SetXMLStrings(std::string_view strLatestKam, std::string_view strCycle);
+  /// True: what the configuration and the catalogue mark as hidden is offered all the same; it takes effect at the
+  /// next SetXMLStrings.
+  void Ignore_Hidden(bool booNewValue);
+  /// Whether the cycle that the editor would now produce differs from the one loaded or last handed back.
+  bool CycleChanged();
+  /// The edited cycle as a cycle document; empty when the sequence is empty. It becomes what CycleChanged compares
+  /// with.
+  std::string RetrieveCycle();
+  /// Replaces the working cycle document; the screen stays as it is.
+  void ResetCycle(std::string_view strCycle);
+
+  /// The atom lines, in sequence order.
+  const cAtoms& atoms() const;
+  /// What is known of the grid's parameter rows.
+  const ParamRowTable& parameterRows() const;
+  /// The changed flag as it stands, without recomputing it.
+  bool changedFlag() const;
+  /// False while the grid is being refilled.
+  bool gridReady() const;
+  /// The grid row that the pop-up menu's choices go to.
+  int currentGridRow() const;
+
+ private:
+  class Implementation;
+  std::unique_ptr<Implementation> implementation_;
+};
+
+}  // namespace mavCycEd

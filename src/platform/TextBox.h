@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace mavCycEd::platform {
+
+/// What a text box tells its owner.
+struct TextBoxEvents {
+  /// The user changed the text (typed, pasted, deleted). Code that sets the text raises nothing.
+  std::function<void()> Change;
+};
+
+/// A text that the user can edit. Line ends are carriage return plus line feed, whatever line ends were set or typed
+/// (text::toCrLf says which characters count as one).
+class TextBox {
+ public:
+  virtual ~TextBox() = default;
+
+  virtual void setEvents(TextBoxEvents events) = 0;
+
+  virtual std::string text() const = 0;
+  virtual void setText(std::string_view text) = 0;
+
+  virtual bool isEnabled() const = 0;
+  virtual void setEnabled(bool enabled) = 0;
+
+  /// Gives the box the keyboard focus and selects its whole text.
+  virtual void focusAndSelectAll() = 0;
+};
+
+}  // namespace mavCycEd::platform
