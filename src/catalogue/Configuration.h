@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "catalogue/CatalogueText.h"
+#include "platform/XmlDocument.h"
+
+namespace mavCycEd {
+
+/// The configuration text that the host gave, parsed when a question first needs it.
+class Configuration {
+ public:
+  explicit Configuration(platform::XmlDocumentFactory& xmlDocuments) : xmlDocuments_(xmlDocuments) {}
+
+  /// Stores the text as it is.
+  void setText(std::string text);
+  const std::string& text() const { return text_; }
+
+  /// The elements that a path below the root `Config` leads to ("Units/UNIT"); none when the text is empty or does not
+  /// parse.
+  platform::XmlNodeList elements(std::string_view path);
+
+  /// Adds the arguments offered for an object, those of every `Config/Arguments/OBJECT` whose name is exactly
+  /// `objectName`, to a list; an argument that the list already holds, compared without regard to case, is not added.
+  /// An OBJECT without OBJECTNAME ends the search.
+  void appendArguments(std::string_view objectName, ValueList& list);
+
+ private:
+  platform::XmlDocumentFactory& xmlDocuments_;
+  std::string text_;
+  std::unique_ptr<platform::XmlDocument> parsed_;
+};
+
+}  // namespace mavCycEd
