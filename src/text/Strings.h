@@ -12,8 +12,6 @@ namespace mavCycEd::text {
 std::vector<std::string_view> split(std::string_view text, char separator);
 /// The pieces between the separators of several characters.
 std::vector<std::string_view> split(std::string_view text, std::string_view separator);
-std::vector<std::string_view> split(std::string&&, char) = delete;
-std::vector<std::string_view> split(std::string&&, std::string_view) = delete;
 
 /// The texts with a separator between them.
 std::string join(const std::vector<std::string>& texts, std::string_view separator);

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "cycle/CycleState.h"
+#include "platform/Clock.h"
+#include "platform/ErrorSink.h"
+#include "platform/XmlDocument.h"
+
+namespace mavCycEd {
+
+/// Writes the editor's state as a cycle document: root CYCLE with DESCRIPTION, VARIABLES, CYCLEATOMS (a summary that
+/// is never read back), ATOMSEQUENCE and VERSION. Names and values go into the text as they stand; a name or value
+/// that breaks the XML gives an empty document. Every writer gives an empty text when the sequence is empty.
+class CycleWriter {
+ public:
+  CycleWriter(const CycleState& cycle, const CycleScreen& screen, platform::XmlDocumentFactory& xmlDocuments,
+              const platform::Clock& clock, ErrorSink& errors)
+      : cycle_(cycle), screen_(screen), xmlDocuments_(xmlDocuments), clock_(clock), errors_(errors) {}
+
+  /// Version 02: no timestamps, the description escaped once more than XML asks for.
+  std::string RetrieveCycleVersion02();
+  /// Version 03 with both timestamps of the reference document, so that an unchanged document comes out as it was.
+  std::string RetrieveCycleVersion03();
+  /// Version 03 as the host gets it: `Created` of the reference document, `Modified` now.
+  std::string RetrieveNewCycle();
+
+ private:
+  struct Timestamps {
+    std::string created;
+    std::string modified;
+  };
+  enum class ModifiedStamp { Kept, Renewed };
+
+  Timestamps timestamps(ModifiedStamp modified) const;
+  std::string version03(ModifiedStamp modified);
+  bool isSequenceEmpty() const;
+  std::string description() const;
+  std::string documentText(std::string_view version) const;
+  void appendVariables(std::string& text) const;
+
+  void AppendDescriptionNode(platform::XmlDocument& document, std::string_view description);
+  void AppendDescriptionNode03(platform::XmlDocument& document, std::string_view description);
+  void AddAttribute(platform::XmlDocument& document, std::string_view name, std::string_view value);
+
+  const CycleState& cycle_;
+  CycleScreen screen_;
+  platform::XmlDocumentFactory& xmlDocuments_;
+  const platform::Clock& clock_;
+  ErrorSink& errors_;
+};
+
+}  // namespace mavCycEd
