@@ -1,0 +1,14 @@
+#pragma once
+
+#include "paramgrid/ParamRowTable.h"
+
+namespace mavCycEd {
+
+/// What one control knows of its parameter grid beside the grid itself.
+struct GridState {
+  ParamRowTable rows;  ///< the facts about each parameter row
+  bool ready = false;  ///< the grid ready flag: the grid holds a complete parameter set
+  int currentRow = 0;  ///< the current grid row: the one that offered values go to
+};
+
+}  // namespace mavCycEd
