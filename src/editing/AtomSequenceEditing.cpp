@@ -1,0 +1,115 @@
+#include "editing/AtomSequenceEditing.h"
+
+#include <utility>
+
+#include "cycle/SequenceDisplay.h"
+
+namespace mavCycEd {
+namespace {
+
+/// How long after an atom was chosen the grid's first row is selected.
+constexpr int gridTimerMilliseconds = 500;
+
+// A grid row as one segment of a parameter text. An empty name leaves just the value.
+std::string segment(const std::string& name, const std::string& value) {
+  std::string text = name + ";" + value + ";";
+  if (text.starts_with(';')) text.erase(0, 1);
+  if (text.ends_with(';')) text.pop_back();
+  return text;
+}
+
+}  // namespace
+
+void AtomSequenceEditing::cboAtom_Click() {
+  guarded(errors_, "cboAtom_Click", [this] {
+    grid_.ready = false;
+    paramGrid_.FillDefaultParams(screen_.cboAtom.text());
+    screen_.tmrUpdateGrid.setInterval(gridTimerMilliseconds);
+    screen_.tmrUpdateGrid.setEnabled(true);
+    grid_.ready = true;
+  });
+}
+
+void AtomSequenceEditing::cmdInset_Click() {
+  guarded(errors_, "cmdInset_Click", [this] {
+    std::string name = screen_.cboAtom.text();
+    if (name.empty()) return;
+    cycle_.changed = true;
+    const int position = screen_.lstAtomSequence.index() + 1;
+    std::string parameters = ParamFiller();
+    if (position >= 1) {
+      insertBehind(position, std::move(name), std::move(parameters));
+      lstRefresh();
+    } else {
+      append(std::move(name), std::move(parameters));
+    }
+    // Behind a selected line the new one is selected; after an append it is the first of the sequence.
+    screen_.lstAtomSequence.setIndex(position);
+  });
+}
+
+// Only name and parameters move down by one position: duration and group index belong to the position.
+void AtomSequenceEditing::insertBehind(int position, std::string name, std::string parameters) {
+  cAtoms& atoms = cycle_.atoms;
+  atoms.Add({}, {}, {}, std::string());
+  for (int j = atoms.Count(); j >= position + 2; --j) {
+    const cAtom& above = atoms.Item(j - 1);
+    atoms.Item(j).setAtomName(above.AtomName());
+    atoms.Item(j).setAtomParameters(above.AtomParameters());
+  }
+  cAtom& inserted = atoms.Item(position + 1);
+  inserted.setAtomName(std::move(name));
+  inserted.setAtomParameters(std::move(parameters));
+}
+
+void AtomSequenceEditing::append(std::string name, std::string parameters) {
+  const cAtom& added = cycle_.atoms.Add(std::move(name), {}, {}, std::move(parameters));
+  screen_.lstAtomSequence.addItem(nextDisplayLine(cycle_, cycle_.atoms.Count(), added.AtomName()));
+}
+
+void AtomSequenceEditing::cmdReplace_Click() {
+  guarded(errors_, "cmdReplace_Click", [this] {
+    const int index = screen_.lstAtomSequence.index();
+    if (index < 0) return;
+    cycle_.changed = true;
+    const int position = index + 1;
+    cAtom& atom = cycle_.atoms.Item(position);
+    atom.setAtomName(screen_.cboAtom.text());
+    atom.setAtomParameters(ParamFiller());
+    screen_.lstAtomSequence.setItemText(index, displayLine(position, 1, atom.AtomName()));
+  });
+}
+
+void AtomSequenceEditing::cmdDelete_Click() {
+  guarded(errors_, "cmdDelete_Click", [this] {
+    const int index = screen_.lstAtomSequence.index();
+    if (index < 0) return;
+    cycle_.changed = true;
+    cycle_.atoms.Remove(index + 1);
+    rebuildSequenceList(cycle_, screen_.lstAtomSequence);
+    const int count = screen_.lstAtomSequence.itemCount();
+    if (index != count) {
+      if (count > 0) screen_.lstAtomSequence.setIndex(index);
+    } else {
+      screen_.lstAtomSequence.setIndex(index - 1);
+    }
+  });
+}
+
+void AtomSequenceEditing::lstRefresh() {
+  guarded(errors_, "lstRefresh", [this] { rebuildSequenceList(cycle_, screen_.lstAtomSequence); });
+}
+
+std::string AtomSequenceEditing::ParamFiller() {
+  return guarded(errors_, "ParamFiller", [this] {
+    std::string parameters;
+    for (int row = 1; row < screen_.GrdAtom.RowCount(); ++row) {
+      parameters += segment(screen_.GrdAtom.cellText(0, row), screen_.GrdAtom.cellText(1, row));
+      parameters += '\r';
+    }
+    if (!parameters.empty()) parameters.pop_back();
+    return parameters;
+  });
+}
+
+}  // namespace mavCycEd
