@@ -1,0 +1,9 @@
+#include "memory/Control.h"
+
+#include "memory/MemoryFrame.h"
+
+namespace mavCycEd::memory {
+
+bool Control::isUsable() const { return enabled_ && visible_ && (container_ == nullptr || container_->isUsable()); }
+
+}  // namespace mavCycEd::memory

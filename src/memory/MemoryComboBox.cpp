@@ -1,0 +1,36 @@
+#include "memory/MemoryComboBox.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "memory/Notify.h"
+#include "platform/RunTimeError.h"
+
+namespace mavCycEd::memory {
+
+void MemoryComboBox::assign(std::vector<std::string> items) {
+  items_ = std::move(items);
+  index_ = -1;
+  text_.clear();
+}
+
+std::string MemoryComboBox::itemText(int index) const {
+  if (index < 0 || index >= itemCount()) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+  return items_[static_cast<std::size_t>(index)];
+}
+
+void MemoryComboBox::setIndex(int index) {
+  text_ = index == -1 ? std::string() : itemText(index);
+  index_ = index;
+  notify(events_.Click);
+}
+
+void MemoryComboBox::setText(std::string_view text) {
+  const auto found = std::ranges::find(items_, text);
+  index_ = found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
+  text_ = text;
+  notify(events_.Click);
+}
+
+}  // namespace mavCycEd::memory

@@ -1,0 +1,31 @@
+#include "memory/MemoryServices.h"
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <ctime>
+#include <system_error>
+
+namespace mavCycEd::memory {
+
+std::string StandardSystemMessage::formatMessage(std::int32_t code) const {
+  std::string text = std::system_category().message(code);
+  return text.starts_with("Unknown error") ? std::string() : text;
+}
+
+std::int32_t StandardSystemMessage::lastErrorCode() const { return errno; }
+
+std::string SystemClock::localTimestamp() const {
+  const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+  std::tm local{};
+#ifdef _WIN32
+  localtime_s(&local, &now);
+#else
+  localtime_r(&now, &local);
+#endif
+  std::array<char, 32> text{};
+  const std::size_t size = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &local);
+  return {text.data(), size};
+}
+
+}  // namespace mavCycEd::memory

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "memory/Control.h"
+#include "memory/Notify.h"
+#include "platform/TextBox.h"
+#include "text/LineEnds.h"
+
+namespace mavCycEd::memory {
+
+/// A text box without a screen.
+class MemoryTextBox : public platform::TextBox, public Control {
+ public:
+  using Control::Control;
+
+  void setEvents(platform::TextBoxEvents events) override { events_ = std::move(events); }
+  std::string text() const override { return text_; }
+  void setText(std::string_view text) override { text_ = text::toCrLf(text); }
+  bool isEnabled() const override { return isSelfEnabled(); }
+  void setEnabled(bool enabled) override { setSelfEnabled(enabled); }
+  void focusAndSelectAll() override {}
+
+  /// The user replaces the whole text in one change, as a paste does. Nothing over nothing is no change.
+  void replace(std::string_view text) {
+    std::string replacement = text::toCrLf(text);
+    if (replacement.empty() && text_.empty()) return;
+    text_ = std::move(replacement);
+    notify(events_.Change);
+  }
+
+ private:
+  platform::TextBoxEvents events_;
+  std::string text_;
+};
+
+}  // namespace mavCycEd::memory
