@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "ControlDriver.h"
+#include "Scenario.h"
+
+namespace mavCycEd::play {
+
+/// Runs a scenario's steps against one control and writes what they show, one JSON object per line.
+class Player {
+ public:
+  Player(ControlDriver& driver, std::ostream& output) : driver_(driver), output_(output) {}
+
+  /// Runs the scenario to its end, or to the first step that is unknown or that a user could not do: that one is
+  /// written as an error. True when all steps ran.
+  bool play(Scenario& scenario);
+
+ private:
+  class Words;
+  using Action = void (Player::*)(Words&);
+  struct Command {
+    std::string_view name;
+    Action action;
+  };
+  static const Command commands[];
+
+  void run(const Step& step);
+  void setConfigXML(Words& words);
+  void setXMLStrings(Words& words);
+  void ignoreHidden(Words& words);
+  void resetCycle(Words& words);
+  void cycleChanged(Words& words);
+  void retrieveCycle(Words& words);
+  void choose(Words& words);
+  void edit(Words& words);
+  void type(Words& words);
+  void select(Words& words);
+  void doubleClick(Words& words);
+  void click(Words& words);
+  void tick(Words& words);
+  void show(Words& words);
+
+  ControlDriver& driver_;
+  std::ostream& output_;
+};
+
+}  // namespace mavCycEd::play
