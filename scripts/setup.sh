@@ -24,6 +24,16 @@ is_installed() {
   [[ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" == installed* ]]
 }
 
+# Runs apt-get without questions; says only why it failed. Uses as_root of its caller.
+apt_get() {
+  local output
+  output="$("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get -qq -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=120 "$@" </dev/null 2>&1)" || {
+    head --lines=6 <<<"$output" >&2
+    return 1
+  }
+}
+
 # install_packages SECTION...: installs what is missing from these sections of packages.txt; silent when nothing is.
 install_packages() {
   local section package missing=() as_root=()
@@ -45,15 +55,11 @@ install_packages() {
     as_root=(sudo)
   fi
   say "Installing missing packages: ${missing[*]}"
-  apt_get() {
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=120 \
-      "$@" </dev/null >/dev/null
-  }
-  apt_get update ||
-    die "the package lists could not be updated. apt-get says why above: no network, or no right to become root."
+  "${as_root[@]}" true || die "installing packages needs root, and sudo did not grant it."
+  apt_get update || die "the package lists could not be updated; apt-get says why above."
   apt_get install --yes --no-install-recommends "${missing[@]}" ||
-    die "not all packages could be installed: ${missing[*]}
-apt-get says why above. Is the network there, and is this Debian 12 (bookworm) with its main section enabled?"
+    die "not all packages could be installed; apt-get says why above.
+Is the network there, and is this Debian 12 (bookworm) with its section main?"
 }
 
 # The build folder of a preset.
