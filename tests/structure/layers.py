@@ -27,7 +27,7 @@ ROOMS = {
 }
 
 # Single headers behind which the rest of their room stays hidden from other rooms.
-ONLY_HEADER_FOR_ROOMS = {"libxml2": "libxml2/LibXmlDocumentFactory.h"}
+ONLY_HEADER_FOR_ROOMS = {"libxml2": "libxml2/Libxml2DocumentFactory.h"}
 
 # Headers of libraries, by room. A room that is missing here has the C++ standard library only.
 LIBRARIES = {
@@ -190,8 +190,8 @@ def self_test():
         "src/platform/XmlDocument.h": "#include <memory>\n",
         "src/catalogue/cAtom.h": '#include "platform/XmlDocument.h"\n#include "text/Strings.h"\n',
         "src/catalogue/cAtom.cpp": '#include "catalogue/cAtom.h"\n// #include <QString>\n/*\n#include "qt/No.h"\n*/\n',
-        "src/libxml2/LibXmlDocumentFactory.h": '#include <libxml/tree.h>\n#include "platform/XmlDocument.h"\n',
-        "src/qt/Editor.h": '#include <QtWidgets/QWidget>\n#include "libxml2/LibXmlDocumentFactory.h"\n',
+        "src/libxml2/Libxml2DocumentFactory.h": '#include <libxml/tree.h>\n#include "platform/XmlDocument.h"\n',
+        "src/qt/Editor.h": '#include <QtWidgets/QWidget>\n#include "libxml2/Libxml2DocumentFactory.h"\n',
         "src/qt/Editor.cpp": '#include "qt/Editor.h"\n#include "Editor.moc"\n',
         "apps/host/main.cpp": '#include <QApplication>\n#include "qt/Editor.h"\n',
         "tests/core/Test.cpp": 'auto text = R"(\n#include "nowhere.h"\n)";\n#include "text/Strings.h"\n',
@@ -203,7 +203,7 @@ def self_test():
         ("src/qt/Bad.cpp", "#include <libxml/tree.h>\n", "may not include <libxml/tree.h>"),
         ("src/platform/Bad.h", '#include "text/Strings.h"\n', 'the room "platform" may not include "text/Strings.h"'),
         ("src/catalogue/Bad.h", '#include "../qt/Editor.h"\n', 'the room "catalogue" may not include "qt/Editor.h"'),
-        ("src/memory/Bad.h", '#include "libxml2/LibXmlDocumentFactory.h"\n', 'the room "memory" may not include'),
+        ("src/memory/Bad.h", '#include "libxml2/Libxml2DocumentFactory.h"\n', 'the room "memory" may not include'),
         ("src/text/Bad.h", 'auto a = "/*";\n#include "text/Missing.h"\nauto b = "*/";\n',
          'there is no "text/Missing.h"'),
         ("src/text/Bad.h", "#include <text/Strings.h>\n", "<text/Strings.h> is ours"),
