@@ -452,7 +452,7 @@ TEST_F(PlayerTest, RowFactsAreShownForTheParameterRows) {
               ElementsAre(R"({"rows":[{"Lower":1,"Upper":100,"Value":100,"Step":0.5,"Factor":1,"Default":100,)"
                           R"("ExtraValues":"","Description":"Range: 1 to 100 Default: 100 Step: 0.5","Items":"",)"
                           R"("Unit":"None","IsNumeric":1},{"Lower":"","Upper":"","Value":"fast","Step":"","Factor":1,)"
-                          R"("Default":"","ExtraValues":"","Description":"slow;fast","Items":"slow;fast","Unit":"7",)"
+                          R"("Default":"","ExtraValues":"","Description":"slow;fast","Items":"slow;fast","Unit":"",)"
                           R"("IsNumeric":0}]})"));
 }
 
