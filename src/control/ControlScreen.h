@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editing/VariableDialogScreen.h"
 #include "platform/Button.h"
 #include "platform/ComboBox.h"
 #include "platform/Frame.h"
@@ -31,6 +32,7 @@ struct ControlScreen {
   platform::Button& cmdDefault;
   platform::PopupMenu& mnuSubParam;  ///< the items of the pop-up menu mnuParam
   platform::Timer& tmrUpdateGrid;
+  VariableDialogFactory& variableDialogs;  ///< makes the window of the variable dialog
 };
 
 }  // namespace mavCycEd

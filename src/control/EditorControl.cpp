@@ -8,10 +8,17 @@
 #include "control/HandBack.h"
 #include "control/ScreenStart.h"
 #include "control/modErr.h"
+#include "control/modMsgBox.h"
 #include "cycle/CycleLoader.h"
 #include "cycle/CycleWriter.h"
+#include "cycle/MacroText.h"
 #include "editing/AtomSequenceEditing.h"
+#include "editing/CycleVariables.h"
+#include "paramgrid/ExtraValues.h"
+#include "paramgrid/OfferedValues.h"
 #include "paramgrid/ParamGrid.h"
+#include "paramgrid/ValueValidation.h"
+#include "text/Utf8.h"
 
 namespace mavCycEd {
 
@@ -53,8 +60,8 @@ class EditorControl::Implementation {
         throw RunTimeError(mavCycEdErrorInvalidXML, "The 'latest_kam.xml' is empty or doesn't exist!");
       }
       fillAtomPicker();
-      loadCycle();
-      selectFirstGridRow();
+      loadCycle(strCycle);
+      if (selectFirstGridRow()) offeredValues_.Update_Popup_Menu();
     });
   }
 
@@ -68,6 +75,9 @@ class EditorControl::Implementation {
   void ResetCycle(std::string_view strCycle) {
     guarded(errors_, "ResetCycle", [&] { cycle_.working = parsed(strCycle); });
   }
+
+  std::string MacroString() { return macroText_.MacroString(); }
+  bool ParamValueControl(std::string& message) { return validation_.ParamValueControl(message); }
 
   const CycleState& cycle() const { return cycle_; }
   const GridState& grid() const { return grid_; }
@@ -87,9 +97,31 @@ class EditorControl::Implementation {
     screen_.cmdInset.setEvents({.Click = [this] { sequenceEditing_.cmdInset_Click(); }});
     screen_.cmdReplace.setEvents({.Click = [this] { sequenceEditing_.cmdReplace_Click(); }});
     screen_.cmdDelete.setEvents({.Click = [this] { sequenceEditing_.cmdDelete_Click(); }});
+    screen_.lstVariables.setEvents({.Click = {}, .DblClick = [this] { variables_.lstVariables_DblClick(); }});
+    screen_.cmdIns.setEvents({.Click = [this] { variables_.cmdIns_Click(); }});
+    screen_.cmdDel.setEvents({.Click = [this] { variables_.cmdDel_Click(); }});
     screen_.cboAtom.setEvents({.Click = [this] { sequenceEditing_.cboAtom_Click(); }, .LostFocus = {}});
     screen_.cmdDefault.setEvents({.Click = [this] { sequenceEditing_.cmdDefault_Click(); }});
+    screen_.mnuSubParam.setEvents({.Click = [this](int index) { offeredValues_.mnuSubParam_Click(index); }});
     screen_.tmrUpdateGrid.setEvents({.Tick = [this] { tmrUpdateGrid_Timer(); }});
+    connectGrid();
+  }
+
+  void connectGrid() {
+    platform::ValueListEvents events;
+    events.SelectionChange = [this] { offeredValues_.GrdAtom_OnSelectionChange(); };
+    events.ContextPopup = [this](int x, int y) { offeredValues_.GrdAtom_OnContextPopup(x, y); };
+    events.MouseDown = [this](platform::MouseButton button, int x, int y) {
+      offeredValues_.GrdAtom_OnMouseDown(button, x, y);
+    };
+    events.MouseMove = [this](int x, int y) { offeredValues_.GrdAtom_OnMouseMove(x, y); };
+    events.SetEditText = [this](int column, int row, const std::string& value) {
+      validation_.GrdAtom_OnSetEditText(column, row, value);
+    };
+    events.EndOfEdit = [this](int, int row, const std::string&, const std::string& value) {
+      validation_.GrdAtom_OnEndOfEdit(row, value);
+    };
+    screen_.GrdAtom.setEvents(std::move(events));
   }
 
   std::unique_ptr<platform::XmlDocument> parsed(std::string_view text) {
@@ -116,17 +148,22 @@ class EditorControl::Implementation {
     screen_.cboAtom.assign(std::move(names));
   }
 
-  void loadCycle() {
-    if (cycle_.working->childNodes().length() == 0) return;
-    loader_.FillCycle();
-    cycle_.changed = false;
+  void loadCycle(std::string_view strCycle) {
+    constexpr std::size_t tooShortForMacro = 3;
+    if (cycle_.working->childNodes().length() > 0) {
+      loader_.FillCycle();
+      cycle_.changed = false;
+    } else if (text::hasMoreCharactersThan(strCycle, tooShortForMacro) && macroText_.IsAnMacro(strCycle)) {
+      macroText_.FillMacro(strCycle);
+    }
   }
 
-  void selectFirstGridRow() {
-    constexpr int firstParameterRow = 1;
-    if (screen_.GrdAtom.RowCount() <= firstParameterRow) return;
+  // False when the grid has no parameter row.
+  bool selectFirstGridRow() {
+    if (screen_.GrdAtom.RowCount() <= firstParameterRow) return false;
     screen_.GrdAtom.setRow(firstParameterRow);
     grid_.currentRow = firstParameterRow;
+    return true;
   }
 
   void txtCycleDescription_Change() {
@@ -136,9 +173,13 @@ class EditorControl::Implementation {
   void tmrUpdateGrid_Timer() {
     guarded(errors_, "tmrUpdateGrid_Timer", [this] {
       screen_.tmrUpdateGrid.setEnabled(false);
-      selectFirstGridRow();
+      if (selectFirstGridRow() && !screen_.GrdAtom.cellText(1, firstParameterRow).empty()) {
+        offeredValues_.Update_Popup_Menu();
+      }
     });
   }
+
+  static constexpr int firstParameterRow = 1;
 
   ControlScreen screen_;
   PlatformServices services_;
@@ -149,16 +190,27 @@ class EditorControl::Implementation {
   CycleState cycle_;
   GridState grid_;
 
+  modMsgBox messages_{services_.messageBox, services_.systemMessage, modErr_};
   CycleScreen cycleScreen_{screen_.txtCycleDescription, screen_.lstVariables, screen_.lstAtomSequence};
   ParamGrid paramGrid_{screen_.GrdAtom, grid_, catalogue_, *provider_, errors_};
+  ValueValidation validation_{screen_.GrdAtom, grid_, catalogue_, messages_, errors_};
+  OfferedValues offeredValues_{screen_.GrdAtom, screen_.mnuSubParam, grid_, catalogue_, errors_};
+  ExtraValues extraValues_{screen_.GrdAtom, grid_, screen_.lstVariables, errors_};
   CycleWriter writer_{cycle_, cycleScreen_, services_.xmlDocuments, services_.clock, errors_};
-  CycleLoader loader_{cycle_, cycleScreen_, screen_.cboAtom, screen_.GrdAtom, errors_};
   HandBack handBack_{cycle_, writer_, services_.codePage, errors_};
+  CycleLoader loader_{cycle_, cycleScreen_, screen_.cboAtom, screen_.GrdAtom, errors_};
   AtomSequenceEditing sequenceEditing_{
       cycle_,
-      grid_,
       {screen_.lstAtomSequence, screen_.cboAtom, screen_.GrdAtom, screen_.tmrUpdateGrid},
-      paramGrid_,
+      {grid_, paramGrid_, extraValues_, validation_},
+      errors_};
+  MacroText macroText_{
+      cycle_, cycleScreen_, screen_.cboAtom, screen_.GrdAtom, [this] { sequenceEditing_.cmdInset_Click(); }, errors_};
+  CycleVariables variables_{
+      cycle_,
+      {screen_.lstVariables, screen_.cboAtom, screen_.variableDialogs, catalogue_, *provider_, messages_},
+      extraValues_,
+      [this] { sequenceEditing_.cboAtom_Click(); },
       errors_};
 };
 
@@ -176,6 +228,8 @@ void EditorControl::Ignore_Hidden(bool booNewValue) { implementation_->Ignore_Hi
 bool EditorControl::CycleChanged() { return implementation_->CycleChanged(); }
 std::string EditorControl::RetrieveCycle() { return implementation_->RetrieveCycle(); }
 void EditorControl::ResetCycle(std::string_view strCycle) { implementation_->ResetCycle(strCycle); }
+std::string EditorControl::MacroString() { return implementation_->MacroString(); }
+bool EditorControl::ParamValueControl(std::string& message) { return implementation_->ParamValueControl(message); }
 
 const cAtoms& EditorControl::atoms() const { return implementation_->cycle().atoms; }
 const ParamRowTable& EditorControl::parameterRows() const { return implementation_->grid().rows; }

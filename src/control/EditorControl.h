@@ -44,6 +44,11 @@ class EditorControl {
   /// Replaces the working cycle document; the screen stays as it is.
   void ResetCycle(std::string_view strCycle);
 
+  /// The edited cycle as a macro text, without its header; empty when it cannot be written. See MacroText.
+  std::string MacroString();
+  /// Whether every row of the parameter grid holds a valid value; if not, `message` names the first one that does not.
+  bool ParamValueControl(std::string& message);
+
   /// The atom lines, in sequence order.
   const cAtoms& atoms() const;
   /// What is known of the grid's parameter rows.

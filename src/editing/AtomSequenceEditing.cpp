@@ -22,18 +22,19 @@ std::string segment(const std::string& name, const std::string& value) {
 
 void AtomSequenceEditing::cboAtom_Click() {
   guarded(errors_, "cboAtom_Click", [this] {
-    grid_.ready = false;
-    paramGrid_.FillDefaultParams(screen_.cboAtom.text());
+    grid_.state.ready = false;
+    grid_.filling.FillDefaultParams(screen_.cboAtom.text());
+    if (!screen_.GrdAtom.cellText(0, 1).empty()) grid_.extraValues.Update_Extra_Params();
     screen_.tmrUpdateGrid.setInterval(gridTimerMilliseconds);
     screen_.tmrUpdateGrid.setEnabled(true);
-    grid_.ready = true;
+    grid_.state.ready = true;
   });
 }
 
 void AtomSequenceEditing::cmdInset_Click() {
   guarded(errors_, "cmdInset_Click", [this] {
     std::string name = screen_.cboAtom.text();
-    if (name.empty()) return;
+    if (name.empty() || !valuesStand()) return;
     cycle_.changed = true;
     const int position = screen_.lstAtomSequence.index() + 1;
     std::string parameters = ParamFiller();
@@ -46,6 +47,16 @@ void AtomSequenceEditing::cmdInset_Click() {
     // Behind a selected line the new one is selected; after an append it is the first of the sequence.
     screen_.lstAtomSequence.setIndex(position);
   });
+}
+
+// Whether every value of the grid passes its check; the first one that does not gets the focus.
+bool AtomSequenceEditing::valuesStand() {
+  for (int row = 1; row < screen_.GrdAtom.RowCount(); ++row) {
+    if (grid_.validation.Check_Range(screen_.GrdAtom.cellText(1, row), row)) continue;
+    screen_.GrdAtom.focusValue(row);
+    return false;
+  }
+  return true;
 }
 
 // Only name and parameters move down by one position: duration and group index belong to the position.
@@ -69,6 +80,7 @@ void AtomSequenceEditing::append(std::string name, std::string parameters) {
 
 void AtomSequenceEditing::cmdReplace_Click() {
   guarded(errors_, "cmdReplace_Click", [this] {
+    if (!valuesStand()) return;
     const int index = screen_.lstAtomSequence.index();
     if (index < 0) return;
     cycle_.changed = true;

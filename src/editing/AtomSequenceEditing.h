@@ -3,8 +3,10 @@
 #include <string>
 
 #include "cycle/CycleState.h"
+#include "paramgrid/ExtraValues.h"
 #include "paramgrid/GridState.h"
 #include "paramgrid/ParamGrid.h"
+#include "paramgrid/ValueValidation.h"
 #include "platform/ComboBox.h"
 #include "platform/ErrorSink.h"
 #include "platform/Timer.h"
@@ -23,31 +25,40 @@ class AtomSequenceEditing {
     platform::Timer& tmrUpdateGrid;
   };
 
-  AtomSequenceEditing(CycleState& cycle, GridState& grid, const Screen& screen, ParamGrid& paramGrid, ErrorSink& errors)
-      : cycle_(cycle), grid_(grid), screen_(screen), paramGrid_(paramGrid), errors_(errors) {}
+  /// What the commands have done by others in the grid.
+  struct Grid {
+    GridState& state;
+    ParamGrid& filling;
+    ExtraValues& extraValues;
+    ValueValidation& validation;
+  };
+
+  AtomSequenceEditing(CycleState& cycle, const Screen& screen, const Grid& grid, ErrorSink& errors)
+      : cycle_(cycle), screen_(screen), grid_(grid), errors_(errors) {}
 
   /// Fills the grid with the parameters of the chosen atom. The sequence stays as it is.
   void cboAtom_Click();
   /// Gives the grid the chosen atom's defaults again.
   void cmdDefault_Click() { cboAtom_Click(); }
-  /// Inserts the atom behind the selected line, or at the end when none is selected.
+  /// Inserts the atom behind the selected line, or at the end when none is selected. A value that does not stand is
+  /// refused: nothing changes, and the value gets the focus.
   void cmdInset_Click();
-  /// Puts the atom in place of the selected line. The line is shown without its block's indent until the list is next
-  /// rebuilt.
+  /// Puts the atom in place of the selected line, unless a value does not stand. The line is shown without its block's
+  /// indent until the list is next rebuilt.
   void cmdReplace_Click();
   /// Removes the selected line; the line that follows it, or the new last one, is selected.
   void cmdDelete_Click();
 
  private:
+  bool valuesStand();
   void lstRefresh();
   std::string ParamFiller();
   void insertBehind(int position, std::string name, std::string parameters);
   void append(std::string name, std::string parameters);
 
   CycleState& cycle_;
-  GridState& grid_;
   Screen screen_;
-  ParamGrid& paramGrid_;
+  Grid grid_;
   ErrorSink& errors_;
 };
 

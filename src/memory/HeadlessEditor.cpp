@@ -3,10 +3,10 @@
 namespace mavCycEd::memory {
 
 ControlScreen MemoryScreen::controls() {
-  return {fraCyclePart, fraDescription, txtCycleDescription, fraAtom,      lstAtomSequence,
-          cmdInset,     cmdReplace,     cmdDelete,           fraVariables, lstVariables,
-          cmdIns,       cmdDel,         fraSelectedMacro,    cboAtom,      GrdAtom,
-          cmdDefault,   mnuSubParam,    tmrUpdateGrid};
+  return {fraCyclePart, fraDescription, txtCycleDescription, fraAtom,        lstAtomSequence,
+          cmdInset,     cmdReplace,     cmdDelete,           fraVariables,   lstVariables,
+          cmdIns,       cmdDel,         fraSelectedMacro,    cboAtom,        GrdAtom,
+          cmdDefault,   mnuSubParam,    tmrUpdateGrid,       variableDialogs};
 }
 
 }  // namespace mavCycEd::memory

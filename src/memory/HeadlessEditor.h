@@ -11,6 +11,7 @@
 #include "memory/MemoryTextBox.h"
 #include "memory/MemoryTimer.h"
 #include "memory/MemoryValueList.h"
+#include "memory/MemoryVariableDialog.h"
 
 namespace mavCycEd::memory {
 
@@ -34,6 +35,7 @@ struct MemoryScreen {
   MemoryButton cmdDefault{&fraSelectedMacro};
   MemoryPopupMenu mnuSubParam;
   MemoryTimer tmrUpdateGrid;
+  MemoryVariableDialogs variableDialogs;
 
   ControlScreen controls();
 };

@@ -23,6 +23,7 @@ class MemoryValueList : public platform::ValueListActiveX, public Control {
   int RowCount() const override { return rows_.rowCount(); }
   int Row() const override { return rows_.currentRow(); }
   void setRow(int row) override { rows_.setCurrentRow(row); }
+  void focusValue(int row) override { rows_.setCurrentRow(row); }
   void InsertRow(std::string_view key, std::string_view value, bool append) override;
   void DeleteRow(int row) override;
   void setValue(int column, int row, std::string_view text) override;

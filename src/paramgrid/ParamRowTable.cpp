@@ -13,14 +13,19 @@ void ParamRowTable::size(int upperBound) {
 
 void ParamRowTable::grow(int rows) { entries_.resize(entries_.size() + static_cast<std::size_t>(rows)); }
 
-ParamRowInfo& ParamRowTable::row(int number) {
-  if (number < 0 || number > upperBound()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  return entries_[static_cast<std::size_t>(number)];
+const ParamRowInfo* ParamRowTable::find(int number) const {
+  return number >= 0 && number <= upperBound() ? &entries_[static_cast<std::size_t>(number)] : nullptr;
 }
 
 const ParamRowInfo& ParamRowTable::row(int number) const {
-  if (number < 0 || number > upperBound()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  return entries_[static_cast<std::size_t>(number)];
+  const ParamRowInfo* const entry = find(number);
+  if (entry == nullptr) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+  return *entry;
+}
+
+ParamRowInfo& ParamRowTable::row(int number) {
+  const auto& table = *this;
+  return const_cast<ParamRowInfo&>(table.row(number));  // the entries of a table that may be changed
 }
 
 }  // namespace mavCycEd

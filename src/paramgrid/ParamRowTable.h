@@ -36,6 +36,8 @@ class ParamRowTable {
   /// The entry of a row. A number beyond the bounds is run-time error 9.
   ParamRowInfo& row(int number);
   const ParamRowInfo& row(int number) const;
+  /// The entry of a row; nullptr beyond the bounds.
+  const ParamRowInfo* find(int number) const;
 
  private:
   std::vector<ParamRowInfo> entries_{1};

@@ -46,6 +46,10 @@ class ValueListActiveX {
   /// Makes a parameter row current; any other number is ignored. Raises nothing.
   virtual void setRow(int row) = 0;
 
+  /// Makes a parameter row current and gives its value the keyboard focus, ready to be typed over; any other number is
+  /// ignored. Raises nothing.
+  virtual void focusValue(int row) = 0;
+
   /// Adds a row: at the end, or as row 1 when `append` is false.
   virtual void InsertRow(std::string_view key, std::string_view value, bool append) = 0;
   /// Removes a parameter row; any other number is ignored. Raises nothing.

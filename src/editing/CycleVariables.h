@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "catalogue/AtomListProvider.h"
+#include "catalogue/modCycleHelper.h"
+#include "cycle/CycleState.h"
+#include "editing/DialogExchange.h"
+#include "editing/VariableDialogScreen.h"
+#include "paramgrid/ExtraValues.h"
+#include "platform/ComboBox.h"
+#include "platform/ErrorSink.h"
+#include "platform/ListBox.h"
+#include "platform/MessageBox.h"
+
+namespace mavCycEd {
+
+/// The commands on the cycle variables. The list lstVariables is the store: one entry per variable, its definition
+/// text. A variable that a parameter value refers to cannot be deleted, nor renamed.
+class CycleVariables {
+ public:
+  /// What the commands work with beside the cycle.
+  struct Surroundings {
+    platform::ListBox& lstVariables;
+    platform::ComboBox& cboAtom;
+    VariableDialogFactory& dialogs;
+    modCycleHelper& catalogue;
+    AtomListProvider& provider;
+    platform::MessageBox& messages;
+  };
+
+  /// `cboAtom_Click` refills the parameter grid.
+  CycleVariables(CycleState& cycle, const Surroundings& surroundings, ExtraValues& extraValues,
+                 std::function<void()> cboAtom_Click, ErrorSink& errors)
+      : cycle_(cycle),
+        with_(surroundings),
+        extraValues_(extraValues),
+        cboAtom_Click_(std::move(cboAtom_Click)),
+        errors_(errors) {}
+
+  /// Deletes the selected variable, unless it is in use.
+  void cmdDel_Click();
+  /// Adds a variable through the dialog, in front of the selected one or at the end. Nothing happens while no atom is
+  /// chosen.
+  void cmdIns_Click();
+  /// Edits the selected variable through the dialog; the name of one in use is locked.
+  void lstVariables_DblClick();
+
+ private:
+  std::string variableInUse(std::string& variable);
+  bool tellUses(std::string variable);
+  void insertEntry(int position, const std::string& entry);
+  void runDialog(bool nameLocked);
+
+  CycleState& cycle_;
+  Surroundings with_;
+  ExtraValues& extraValues_;
+  std::function<void()> cboAtom_Click_;
+  ErrorSink& errors_;
+  DialogExchange exchange_;
+};
+
+}  // namespace mavCycEd

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string_view>
+
+#include "catalogue/modCycleHelper.h"
+#include "editing/VariableDialogScreen.h"
+#include "platform/ErrorSink.h"
+
+namespace mavCycEd {
+
+/// The pop-up menu of the variable dialog's settings grid: the values of the chosen unit, to be put into one of the
+/// three settings.
+class SyringeConstants {
+ public:
+  SyringeConstants(VariableDialogScreen& screen, modCycleHelper& catalogue, ErrorSink& errors)
+      : screen_(screen), catalogue_(catalogue), errors_(errors) {}
+
+  /// The unit stands: gathers the values for it.
+  void cboUnit_LostFocus();
+  void grdParamStnd_OnMouseDown(platform::MouseButton button);
+  void grdParamStnd_OnContextPopup(int x, int y);
+  /// Puts the chosen value into the row that was pressed last, or into the first one.
+  void mnuSyrConstant_Click(int index);
+
+ private:
+  void EmptyMnu();
+  bool IsMenuItem(std::string_view caption) const;
+
+  VariableDialogScreen& screen_;
+  modCycleHelper& catalogue_;
+  ErrorSink& errors_;
+  int pressedRow_ = 0;
+};
+
+}  // namespace mavCycEd

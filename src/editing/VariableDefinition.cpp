@@ -1,0 +1,51 @@
+#include "editing/VariableDefinition.h"
+
+#include "text/Strings.h"
+
+namespace mavCycEd {
+namespace {
+
+constexpr std::string_view noUnit = "None";
+
+std::string_view before(std::string_view text, char character) { return text.substr(0, text.find(character)); }
+
+// The text between "(" and ")"; "None" when it is empty or there is no such pair.
+std::string_view unitOf(std::string_view firstField) {
+  const std::size_t open = firstField.find('(');
+  if (open == std::string_view::npos) return noUnit;
+  const std::size_t close = firstField.find(')', open);
+  if (close == std::string_view::npos || close == open + 1) return noUnit;
+  return firstField.substr(open + 1, close - open - 1);
+}
+
+}  // namespace
+
+std::string variableName(std::string_view definition) {
+  const std::string_view field = text::trimSpaces(before(definition, ';'));
+  return std::string(text::trimSpaces(before(field, '(')));
+}
+
+NumberDefinition parseNumber(std::string_view definition) {
+  constexpr std::size_t fieldCount = 4;
+  NumberDefinition number;
+  number.name = variableName(definition);
+  number.unit = unitOf(before(definition, ';'));
+  const auto fields = text::split(definition, ';');
+  if (fields.size() >= fieldCount) {
+    number.standard = fields[1];
+    number.lower = fields[2];
+    number.upper = fields[3];
+  }
+  return number;
+}
+
+std::string numberDefinition(const NumberDefinition& number) {
+  const std::string unit = number.unit == noUnit ? std::string() : number.unit;
+  return number.name + " (" + unit + ");" + number.standard + ";" + number.lower + ";" + number.upper;
+}
+
+std::string objectDefinition(std::string_view name, const std::vector<std::string>& objectTypes) {
+  return std::string(name) + ";" + text::join(objectTypes, ";");
+}
+
+}  // namespace mavCycEd

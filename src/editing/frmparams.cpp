@@ -1,0 +1,266 @@
+#include "editing/frmparams.h"
+
+#include <array>
+#include <vector>
+
+#include "editing/VariableDefinition.h"
+#include "text/IllegalCharacters.h"
+#include "text/LineEnds.h"
+#include "text/MessageTitles.h"
+#include "text/Number.h"
+#include "text/Strings.h"
+
+namespace mavCycEd {
+
+using text::crLf;
+
+namespace {
+
+constexpr int valueColumn = 1;
+
+/// The rows of the settings grid.
+enum SettingRow : int { DefaultRow = 1, LowerRow = 2, UpperRow = 3 };
+struct Setting {
+  SettingRow row;
+  std::string_view key;
+  std::string_view missing;
+};
+constexpr std::array settings{Setting{DefaultRow, "Default Value", "The default value is missing."},
+                              Setting{LowerRow, "Lower limit", "The lower limit is missing."},
+                              Setting{UpperRow, "Upper limit", "The upper limit is missing."}};
+
+std::string twoParagraphs(std::string_view first, std::string_view second) {
+  return std::string(first).append(crLf).append(crLf).append(second);
+}
+
+}  // namespace
+
+frmparams::frmparams(VariableDialogScreen& screen, DialogExchange& exchange, modCycleHelper& catalogue,
+                     AtomListProvider& provider, platform::MessageBox& messages, ErrorSink& errors)
+    : screen_(screen),
+      exchange_(exchange),
+      catalogue_(catalogue),
+      provider_(provider),
+      messages_(messages),
+      errors_(errors),
+      constants_(screen, catalogue, errors) {
+  setCaptions();
+  connect();
+}
+
+void frmparams::setCaptions() {
+  screen_.fraValue().setCaption("Parameter Name");
+  screen_.fraParamType().setCaption("Parameter Type");
+  screen_.optNrValue().setCaption("&Numeric Value");
+  screen_.optObjValue().setCaption("&Object");
+  screen_.fraValues().setCaption("Settings");
+  screen_.lblUnit().setCaption("Unit");
+  screen_.fraObjects().setCaption("Please indicate the object types this parameter represents:");
+  screen_.OKButton().setCaption("OK");
+  screen_.cmdCancel().setCaption("&Cancel");
+}
+
+void frmparams::connect() {
+  screen_.txtParamName().setEvents({.Change = [this] { txtParamName_Change(); }});
+  screen_.optNrValue().setEvents({.Click = [this] { optNrValue_Click(); }});
+  screen_.optObjValue().setEvents({.Click = [this] { optObjValue_Click(); }});
+  screen_.OKButton().setEvents({.Click = [this] { OKButton_Click(); }});
+  screen_.cmdCancel().setEvents({.Click = [this] { cmdCancel_Click(); }});
+  screen_.cboUnit().setEvents({.Click = {}, .LostFocus = [this] { constants_.cboUnit_LostFocus(); }});
+  platform::ValueListEvents gridEvents;
+  gridEvents.MouseDown = [this](platform::MouseButton button, int, int) {
+    constants_.grdParamStnd_OnMouseDown(button);
+  };
+  gridEvents.ContextPopup = [this](int x, int y) { constants_.grdParamStnd_OnContextPopup(x, y); };
+  screen_.grdParamStnd().setEvents(gridEvents);
+  screen_.mnuSyrConstant().setEvents({.Click = [this](int index) { constants_.mnuSyrConstant_Click(index); }});
+}
+
+void frmparams::Form_Load() {
+  guarded(errors_, "Form_Load", [this] {
+    screen_.grdParamStnd().setColumnTitle(0, "Parameter Description");
+    screen_.grdParamStnd().setColumnTitle(1, "Value");
+    exchange_.resultText.clear();
+    screen_.frmparams().setCaption(exchange_.editMode ? "Modify Parameter" : "Add New Parameter");
+    fillSettings("", "", "");
+    FillStandardUnits();
+    if (exchange_.editMode) {
+      selectVariableType(exchange_.editedText, screen_.optObjValue(), screen_.optNrValue());
+    } else {
+      screen_.cboUnit().setText("None");
+    }
+    // A new variable is a number at first, and so is an entry whose definition names no type.
+    if (!screen_.optNrValue().value() && !screen_.optObjValue().value()) screen_.optNrValue().select();
+  });
+}
+
+void frmparams::lockName() {
+  screen_.txtParamName().setEnabled(false);
+  screen_.fraParamType().setEnabled(false);
+}
+
+void frmparams::FillStandardUnits() {
+  guarded(errors_, "FillStandardUnits", [this] {
+    const std::string units = catalogue_.standardUnits();
+    for (const std::string_view unit : text::split(units, ';')) {
+      if (unit.empty()) continue;
+      const std::string text = provider_.lookUpUnit(cleanedEntry(unit)).text;
+      if (!itemInComboExists(screen_.cboUnit(), text)) screen_.cboUnit().addItem(text);
+    }
+  });
+}
+
+bool frmparams::itemInComboExists(const platform::ComboBox& combo, std::string_view text) {
+  for (int i = 0; i < combo.itemCount(); ++i) {
+    if (combo.itemText(i) == text) return true;
+  }
+  return false;
+}
+
+void frmparams::fillSettings(std::string_view standard, std::string_view lower, std::string_view upper) {
+  platform::ValueListActiveX& grid = screen_.grdParamStnd();
+  resetGrid(grid);
+  const std::array values{standard, lower, upper};
+  for (std::size_t i = 0; i < settings.size(); ++i) grid.InsertRow(settings[i].key, values[i], true);
+}
+
+void frmparams::showHalf(bool numeric) {
+  screen_.fraValues().setEnabled(numeric);
+  screen_.fraValues().setVisible(numeric);
+  screen_.fraObjects().setEnabled(!numeric);
+  screen_.fraObjects().setVisible(!numeric);
+}
+
+void frmparams::optNrValue_Click() {
+  guarded(errors_, "optNrValue_Click", [this] {
+    showHalf(true);
+    if (exchange_.editedText.empty()) return;
+    const NumberDefinition number = parseNumber(exchange_.editedText);
+    screen_.txtParamName().setText(number.name);
+    screen_.cboUnit().setText(number.unit);
+    constants_.cboUnit_LostFocus();
+    fillSettings(number.standard, number.lower, number.upper);
+  });
+}
+
+void frmparams::optObjValue_Click() {
+  guarded(errors_, "optObjValue_Click", [this] {
+    showHalf(false);
+    const std::string& edited = exchange_.editedText;
+    const std::string classNames = catalogue_.classNames();
+    screen_.lstObject().clear();
+    for (const std::string_view name : text::split(classNames, ';')) {
+      screen_.lstObject().addItem(name, !edited.empty() && edited.find(name) != std::string::npos);
+    }
+    if (!edited.empty()) screen_.txtParamName().setText(variableName(edited));
+  });
+}
+
+void frmparams::txtParamName_Change() {
+  guarded(errors_, "txtParamName_Change", [this] {
+    std::string name = screen_.txtParamName().text();
+    if (text::filterName(name)) return;
+    showWarningIllegalCharater2();
+    screen_.txtParamName().setText(name);
+    screen_.txtParamName().focusAndSelectAll();
+  });
+}
+
+void frmparams::OKButton_Click() {
+  guarded(errors_, "OKButton_Click", [this] {
+    const std::string name = screen_.txtParamName().text();
+    if (text::trimSpaces(name).empty()) {
+      tell("Empty parameter name");
+      screen_.txtParamName().focusAndSelectAll();
+      return;
+    }
+    if (!ValidatedParamsValues() || !isDefaultWithinLimits()) return;
+    exchange_.resultText.clear();
+    if (screen_.optNrValue().value() && !areSettingsComplete()) return;
+    exchange_.resultText = definition();
+    exchange_.editMode = false;
+    screen_.frmparams().close();
+  });
+}
+
+std::string frmparams::definition() const {
+  const std::string entered = screen_.txtParamName().text();
+  const std::string name(text::trimSpaces(entered));
+  if (screen_.optNrValue().value()) {
+    return numberDefinition(
+        {name, screen_.cboUnit().text(), setting(DefaultRow), setting(LowerRow), setting(UpperRow)});
+  }
+  std::vector<std::string> types;
+  const platform::SelectionList& list = screen_.lstObject();
+  for (int i = 0; i < list.itemCount(); ++i) {
+    if (list.isSelected(i)) types.push_back(list.itemText(i));
+  }
+  return objectDefinition(name, types);
+}
+
+void frmparams::cmdCancel_Click() {
+  guarded(errors_, "cmdCancel_Click", [this] {
+    exchange_.resultText.clear();
+    screen_.frmparams().close();
+  });
+}
+
+bool frmparams::ValidatedParamsValues() {
+  return guarded(errors_, "ValidatedParamsValues", [this] {
+    bool valid = true;
+    for (const Setting& each : settings) {
+      std::string value = setting(each.row);
+      if (text::filterValue(value)) continue;
+      showWarningIllegalCharater1();
+      screen_.grdParamStnd().setValue(valueColumn, each.row, value);
+      valid = false;
+    }
+    return valid;
+  });
+}
+
+bool frmparams::isDefaultWithinLimits() {
+  const std::string standard = setting(DefaultRow);
+  if (!text::isNumeric(standard)) return true;
+  const std::string lower = setting(LowerRow);
+  if (text::isNumeric(lower) && text::numericValue(standard) < text::numericValue(lower)) {
+    tell(twoParagraphs("Parameter out of range", "The default value is lower than the lower limit."));
+    return false;
+  }
+  const std::string upper = setting(UpperRow);
+  if (text::isNumeric(upper) && text::numericValue(standard) > text::numericValue(upper)) {
+    tell(twoParagraphs("Parameter out of range", "The default value is higher than the upper limit."));
+    return false;
+  }
+  return true;
+}
+
+bool frmparams::areSettingsComplete() {
+  for (const Setting& each : settings) {
+    const std::string value = setting(each.row);
+    if (!text::trimSpaces(value).empty()) continue;
+    tell(twoParagraphs("Incomplete parameter", each.missing));
+    screen_.grdParamStnd().focusValue(each.row);
+    return false;
+  }
+  return true;
+}
+
+void frmparams::showWarningIllegalCharater1() {
+  tell(twoParagraphs("Invalid Parameter:", "The parameter value cannot contain any of the following characters:")
+           .append(crLf)
+           .append("\"'&<>;,\""));
+}
+
+void frmparams::showWarningIllegalCharater2() {
+  tell(std::string("The parameter name cannot contain any of the following characters:")
+           .append(crLf)
+           .append("\"-'&<>;,+\""));
+}
+
+void frmparams::tell(std::string_view message) {
+  messages_.messageBox(screen_.frmparams().hWnd(), message, text::dialogTitle,
+                       platform::Information | platform::OkOnly);
+}
+
+}  // namespace mavCycEd

@@ -1,0 +1,93 @@
+#include "paramgrid/ExtraValues.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+#include "paramgrid/ObjectTests.h"
+#include "text/Strings.h"
+
+namespace mavCycEd {
+namespace {
+
+struct Variable {
+  std::string name;
+  std::string unit;
+};
+
+// What an entry says of its variable; nothing when it has fewer than two fields.
+std::optional<Variable> parsed(std::string_view entry) {
+  const auto fields = text::split(entry, ';');
+  if (fields.size() < 2) return std::nullopt;
+  const std::string_view first = fields.front();
+  const std::size_t open = first.find('(');
+  const std::size_t close = open == std::string_view::npos ? open : first.find(')', open);
+  if (close == std::string_view::npos) return Variable{std::string(text::trimSpaces(first)), ""};
+  const std::string_view unit = first.substr(open + 1, close - open - 1);
+  const std::string name = std::string(first.substr(0, open)).append(first.substr(close + 1));
+  return Variable{std::string(text::trimSpaces(name)), unit.empty() ? "None" : std::string(unit)};
+}
+
+void appendName(std::string& list, std::string_view name) {
+  if (!list.empty()) list += ';';
+  list += name;
+}
+
+// Takes a name out of a list again: the last one of that name, since names are added at the end.
+void removeName(std::string& list, std::string_view name) {
+  const auto pieces = text::split(list, ';');
+  const auto last = std::find(pieces.rbegin(), pieces.rend(), name);
+  if (last == pieces.rend()) return;
+  std::vector<std::string> kept(pieces.begin(), pieces.end());
+  kept.erase(kept.begin() + (pieces.rend() - last - 1));
+  list = text::join(kept, ";");
+}
+
+bool hasPickList(const ParamRowInfo& info, std::string_view unit) { return info.IsNumeric == 0 || ItIsObject(unit); }
+
+}  // namespace
+
+template <typename Change>
+void ExtraValues::forEachFittingRow(std::string_view unit, const Change& change) {
+  const int lastRow = std::min(grdAtom_.RowCount() - 1, state_.rows.upperBound());
+  for (int row = 1; row <= lastRow; ++row) {
+    ParamRowInfo& info = state_.rows.row(row);
+    if (info.Unit == unit) change(row, info);
+  }
+}
+
+void ExtraValues::Add_Extra_Udons(std::string_view variable) {
+  guarded(errors_, "Add_Extra_Udons", [&] {
+    const std::optional<Variable> added = parsed(variable);
+    if (!added) return;
+    forEachFittingRow(added->unit, [&](int row, ParamRowInfo& info) {
+      appendName(info.ExtraValues, added->name);
+      if (!hasPickList(info, added->unit)) return;
+      appendName(info.Items, added->name);
+      grdAtom_.setPickList(row, info.Items);
+    });
+  });
+}
+
+void ExtraValues::Delete_Extra_Udons(std::string_view variable) {
+  guarded(errors_, "Delete_Extra_Udons", [&] {
+    const std::optional<Variable> deleted = parsed(variable);
+    if (!deleted) return;
+    forEachFittingRow(deleted->unit, [&](int row, ParamRowInfo& info) {
+      removeName(info.ExtraValues, deleted->name);
+      if (hasPickList(info, deleted->unit)) {
+        removeName(info.Items, deleted->name);
+        grdAtom_.setPickList(row, info.Items);
+      }
+      if (grdAtom_.cellText(1, row) == deleted->name) grdAtom_.setValue(1, row, textOf(info.Value));
+    });
+  });
+}
+
+void ExtraValues::Update_Extra_Params() {
+  guarded(errors_, "Update_Extra_Params", [this] {
+    for (int i = 0; i < lstVariables_.itemCount(); ++i) Add_Extra_Udons(lstVariables_.itemText(i));
+  });
+}
+
+}  // namespace mavCycEd

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "paramgrid/GridState.h"
+#include "platform/ErrorSink.h"
+#include "platform/ListBox.h"
+#include "platform/ValueListActiveX.h"
+
+namespace mavCycEd {
+
+/// Offers the cycle variables as values of the grid rows whose unit they have, and withdraws them again. A variable is
+/// known by the text of its entry: name, its unit in parentheses, and further fields separated by ";". A unit "()"
+/// stands for "None"; an entry without parentheses (a variable for objects) fits the rows without a unit.
+class ExtraValues {
+ public:
+  ExtraValues(platform::ValueListActiveX& GrdAtom, GridState& state, const platform::ListBox& lstVariables,
+              ErrorSink& errors)
+      : grdAtom_(GrdAtom), state_(state), lstVariables_(lstVariables), errors_(errors) {}
+
+  /// Offers a variable. An entry without ";" is ignored.
+  void Add_Extra_Udons(std::string_view variable);
+  /// Withdraws a variable. A row that holds it as its value shows the value again that it was filled with.
+  void Delete_Extra_Udons(std::string_view variable);
+  /// Offers all variables of the cycle, after the grid was refilled.
+  void Update_Extra_Params();
+
+ private:
+  template <typename Change>
+  void forEachFittingRow(std::string_view unit, const Change& change);
+
+  platform::ValueListActiveX& grdAtom_;
+  GridState& state_;
+  const platform::ListBox& lstVariables_;
+  ErrorSink& errors_;
+};
+
+}  // namespace mavCycEd

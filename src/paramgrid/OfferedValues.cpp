@@ -1,0 +1,104 @@
+#include "paramgrid/OfferedValues.h"
+
+#include <cstdlib>
+#include <string_view>
+#include <unordered_set>
+
+#include "paramgrid/RowClass.h"
+#include "paramgrid/modControlArray.h"
+#include "text/Strings.h"
+
+namespace mavCycEd {
+namespace {
+
+constexpr int valueColumnBegin = 151;
+constexpr int rowHeight = 19;
+constexpr int sameRowDistance = 22;  // how far the pointer may stray from the last press and still be on its row
+
+constexpr std::string_view defaultMark = "Default:";
+
+}  // namespace
+
+void OfferedValues::GrdAtom_OnMouseDown(platform::MouseButton button, int x, int y) {
+  guarded(errors_, "GrdAtom_OnMouseDown", [&] {
+    if (button == platform::MouseButton::Middle) return;
+    state_.currentRow = grdAtom_.Row();
+    if (button != platform::MouseButton::Primary) return;
+    state_.LastMouseX = x;
+    state_.LastMouseY = y;
+    if (hasParameters()) Update_Popup_Menu();
+  });
+}
+
+void OfferedValues::GrdAtom_OnSelectionChange() {
+  guarded(errors_, "GrdAtom_OnSelectionChange", [this] { state_.currentRow = grdAtom_.Row(); });
+}
+
+void OfferedValues::GrdAtom_OnContextPopup(int x, int y) {
+  guarded(errors_, "GrdAtom_OnContextPopup", [&] {
+    if (x < valueColumnBegin || y >= grdAtom_.RowCount() * rowHeight) return;
+    Update_Popup_Menu();
+    if (mnuSubParam_.itemCount() >= 1 && !mnuSubParam_.itemCaption(0).empty() && hasParameters()) mnuSubParam_.popUp();
+  });
+}
+
+void OfferedValues::GrdAtom_OnMouseMove(int x, int y) {
+  guarded(errors_, "GrdAtom_OnMouseMove", [&] {
+    const int row = state_.currentRow;
+    if (row == 0 || grdAtom_.cellText(0, row).empty()) {
+      grdAtom_.setToolTipText("");
+    } else if (row < grdAtom_.RowCount()) {
+      grdAtom_.setToolTipText(toolTip(x, y));
+    }
+  });
+}
+
+std::string OfferedValues::toolTip(int x, int y) const {
+  const ParamRowInfo* const info = state_.rows.find(state_.currentRow);
+  const bool overRow = std::abs(y - state_.LastMouseY) < sameRowDistance && x >= valueColumnBegin;
+  return overRow && info != nullptr ? text::replaceAll(info->Description, ";", " Or ") : std::string();
+}
+
+void OfferedValues::Update_Popup_Menu() {
+  guarded(errors_, "Update_Popup_Menu", [this] {
+    const ParamRowInfo* const info = state_.rows.find(state_.currentRow);
+    const std::string standard = info != nullptr ? textOf(info->Default) : std::string();
+    const bool severalClasses = info != nullptr && info->Description.find(';') != std::string::npos;
+    const auto unit = parenthesised(grdAtom_.cellText(0, state_.currentRow));
+
+    ValueList values;
+    catalogue_.appendObjectValues(cleanedEntry(unit.value_or(severalClasses ? "" : "None")), values);
+    Add_Extra_Keywords(values);
+
+    modControlArray::deleteItems(mnuSubParam_);
+    mnuSubParam_.setItemCaption(0, std::string(defaultMark) + standard);
+    std::unordered_set<std::string_view> shown{standard, ""};
+    for (const std::string& value : values) {
+      if (!shown.insert(value).second) continue;
+      const int place = modControlArray::firstFreePlace(mnuSubParam_);
+      mnuSubParam_.createItem(place);
+      mnuSubParam_.setItemCaption(place, value);
+    }
+  });
+}
+
+void OfferedValues::Add_Extra_Keywords(ValueList& list) {
+  guarded(errors_, "Add_Extra_Keywords", [&] {
+    const ParamRowInfo* const info = state_.rows.find(grdAtom_.Row());
+    if (info == nullptr) return;
+    for (const std::string_view name : text::split(info->ExtraValues, ';')) {
+      if (!name.empty()) list.emplace_back(name);
+    }
+    if (info->Unit.empty()) catalogue_.configuration().appendArguments("FREE TEXT", list);
+  });
+}
+
+void OfferedValues::mnuSubParam_Click(int index) {
+  guarded(errors_, "mnuSubParam_Click", [&] {
+    if (state_.currentRow == 0) state_.currentRow = 1;
+    const std::string caption = mnuSubParam_.itemCaption(index);
+    grdAtom_.setValue(1, state_.currentRow, text::replaceAll(caption, defaultMark, ""));
+  });
+}
+
+}  // namespace mavCycEd
