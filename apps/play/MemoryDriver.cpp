@@ -1,57 +1,29 @@
 #include "MemoryDriver.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace mavCycEd::play {
+
+using namespace memory;
+
 namespace {
 
-using memory::MemoryScreen;
-
-/// A control's name on the screen and where it is found.
-template <typename Control>
-struct Named {
-  std::string_view name;
-  Control MemoryScreen::*control;
-};
-
-constexpr std::array lists{Named<memory::MemoryListBox>{"lstAtomSequence", &MemoryScreen::lstAtomSequence},
-                           Named<memory::MemoryListBox>{"lstVariables", &MemoryScreen::lstVariables}};
-constexpr std::array combos{Named<memory::MemoryComboBox>{"cboAtom", &MemoryScreen::cboAtom}};
-constexpr std::array textBoxes{Named<memory::MemoryTextBox>{"txtCycleDescription", &MemoryScreen::txtCycleDescription}};
-constexpr std::array grids{Named<memory::MemoryValueList>{"GrdAtom", &MemoryScreen::GrdAtom}};
-constexpr std::array timers{Named<memory::MemoryTimer>{"tmrUpdateGrid", &MemoryScreen::tmrUpdateGrid}};
-constexpr std::array buttons{Named<memory::MemoryButton>{"cmdInset", &MemoryScreen::cmdInset},
-                             Named<memory::MemoryButton>{"cmdReplace", &MemoryScreen::cmdReplace},
-                             Named<memory::MemoryButton>{"cmdDelete", &MemoryScreen::cmdDelete},
-                             Named<memory::MemoryButton>{"cmdIns", &MemoryScreen::cmdIns},
-                             Named<memory::MemoryButton>{"cmdDel", &MemoryScreen::cmdDel},
-                             Named<memory::MemoryButton>{"cmdDefault", &MemoryScreen::cmdDefault}};
-constexpr std::array frames{Named<memory::MemoryFrame>{"fraCyclePart", &MemoryScreen::fraCyclePart},
-                            Named<memory::MemoryFrame>{"fraDescription", &MemoryScreen::fraDescription},
-                            Named<memory::MemoryFrame>{"fraAtom", &MemoryScreen::fraAtom},
-                            Named<memory::MemoryFrame>{"fraVariables", &MemoryScreen::fraVariables},
-                            Named<memory::MemoryFrame>{"fraSelectedMacro", &MemoryScreen::fraSelectedMacro}};
-
-// The control of this name; a StepRefused when there is none.
-template <typename Screen, typename Table>
-auto& find(Screen& screen, const Table& table, std::string_view name) {
-  const auto* const entry = std::ranges::find(table, name, [](const auto& named) { return named.name; });
-  if (entry == table.end()) throw StepRefused("There is no such control here: " + std::string(name));
-  return screen.*(entry->control);
+template <typename Items>
+int indexOf(const Items& items, std::string_view control, const std::string& text) {
+  const auto item = std::ranges::find(items, text);
+  if (item == items.end()) throw StepRefused(std::string(control) + " has no item " + text + ".");
+  return static_cast<int>(item - items.begin());
 }
 
-// The same, for a user who wants to work with it.
-template <typename Table>
-auto& use(MemoryScreen& screen, const Table& table, std::string_view name) {
-  auto& control = find(screen, table, name);
-  if (!control.isUsable()) throw StepRefused("The control " + std::string(name) + " is disabled.");
-  return control;
+void checkIndex(int index, int lowest, int count, std::string_view list) {
+  if (index < lowest || index >= count) {
+    throw StepRefused(std::string(list) + " has no item " + std::to_string(index) + ".");
+  }
 }
 
-memory::MemoryValueList& useRow(MemoryScreen& screen, std::string_view grid, int row) {
-  memory::MemoryValueList& control = use(screen, grids, grid);
+MemoryValueList& useRow(const MemoryControls& controls, std::string_view grid, int row) {
+  auto& control = controls.use<MemoryValueList>(grid);
   if (!control.rows().isParameterRow(row)) {
     throw StepRefused(std::string(grid) + " has no parameter row " + std::to_string(row) + ".");
   }
@@ -67,78 +39,147 @@ void MemoryDriver::SetXMLStrings(const std::string& strLatestKam, const std::str
 }
 
 void MemoryDriver::Ignore_Hidden(bool booNewValue) { headless_.control().Ignore_Hidden(booNewValue); }
-
 bool MemoryDriver::CycleChanged() { return headless_.control().CycleChanged(); }
-
 std::string MemoryDriver::RetrieveCycle() { return headless_.control().RetrieveCycle(); }
-
 void MemoryDriver::ResetCycle(const std::string& strCycle) { headless_.control().ResetCycle(strCycle); }
+std::string MemoryDriver::MacroString() { return headless_.control().MacroString(); }
 
 void MemoryDriver::chooseItem(std::string_view combo, const std::string& text) {
-  memory::MemoryComboBox& control = use(headless_.screen(), combos, combo);
-  const auto item = std::ranges::find(control.items(), text);
-  if (item == control.items().end()) throw StepRefused(std::string(combo) + " has no item " + text + ".");
-  control.setIndex(static_cast<int>(item - control.items().begin()));
+  auto& control = controls_.use<MemoryComboBox>(combo);
+  control.setIndex(indexOf(control.items(), combo, text));
 }
 
+void MemoryDriver::typeInCombo(std::string_view combo, const std::string& text) {
+  auto& control = controls_.use<MemoryComboBox>(combo);
+  if (combo == "cboAtom") throw StepRefused("Nothing can be typed into cboAtom.");
+  control.type(text);
+}
+
+void MemoryDriver::leaveCombo(std::string_view combo) { controls_.use<MemoryComboBox>(combo).leave(); }
+
 void MemoryDriver::chooseInGrid(std::string_view grid, int row, const std::string& text) {
-  memory::MemoryValueList& control = useRow(headless_.screen(), grid, row);
-  const auto& items = control.rows().entry(row)->pickList;
-  if (std::ranges::find(items, text) == items.end()) {
-    throw StepRefused("The pick list of row " + std::to_string(row) + " has no item " + text + ".");
-  }
+  MemoryValueList& control = useRow(controls_, grid, row);
+  indexOf(control.rows().entry(row)->pickList, "The pick list of row " + std::to_string(row), text);
   control.pick(row, text);
 }
 
 void MemoryDriver::editInGrid(std::string_view grid, int row, const std::string& text) {
-  useRow(headless_.screen(), grid, row).type(row, text);
+  useRow(controls_, grid, row).type(row, text);
+}
+
+void MemoryDriver::pressInGrid(std::string_view grid, int x, int y) {
+  controls_.use<MemoryValueList>(grid).pressMouse(platform::MouseButton::Primary, x, y);
+}
+
+void MemoryDriver::hoverOverGrid(std::string_view grid, int x, int y) {
+  controls_.use<MemoryValueList>(grid).moveMouse(x, y);
+}
+
+std::optional<std::vector<std::string>> MemoryDriver::askForMenu(std::string_view grid, int x, int y) {
+  auto& control = controls_.use<MemoryValueList>(grid);
+  control.pressMouse(platform::MouseButton::Secondary, x, y);
+  control.requestContextMenu(x, y);
+  const MemoryPopupMenu* const shown = openMenu();
+  if (shown == nullptr) return std::nullopt;
+  return shown->visibleCaptions();
+}
+
+MemoryPopupMenu* MemoryDriver::openMenu() const {
+  auto& menu =
+      isDialogOpen() ? controls_.see<MemoryPopupMenu>("mnuSyrConstant") : controls_.see<MemoryPopupMenu>("mnuSubParam");
+  return menu.isOpen() ? &menu : nullptr;
+}
+
+void MemoryDriver::chooseFromMenu(int place) {
+  MemoryPopupMenu* const shown = openMenu();
+  if (shown == nullptr) throw StepRefused("No pop-up menu is open.");
+  if (!shown->choose(place)) throw StepRefused("The pop-up menu has no entry " + std::to_string(place) + ".");
+}
+
+void MemoryDriver::dismissMenu() {
+  if (MemoryPopupMenu* const shown = openMenu()) shown->dismiss();
 }
 
 void MemoryDriver::replaceText(std::string_view textBox, const std::string& text) {
-  use(headless_.screen(), textBoxes, textBox).replace(text);
+  controls_.use<MemoryTextBox>(textBox).replace(text);
 }
 
 void MemoryDriver::selectItem(std::string_view list, int index) {
-  memory::MemoryListBox& control = use(headless_.screen(), lists, list);
-  if (index < -1 || index >= control.itemCount()) {
-    throw StepRefused(std::string(list) + " has no item " + std::to_string(index) + ".");
+  if (list == "lstObject") {
+    auto& control = controls_.use<MemorySelectionList>(list);
+    checkIndex(index, 0, control.itemCount(), list);
+    control.toggle(index);
+    return;
   }
+  auto& control = controls_.use<MemoryListBox>(list);
+  checkIndex(index, -1, control.itemCount(), list);
   control.setIndex(index);
 }
 
 void MemoryDriver::doubleClickItem(std::string_view list, int index) {
-  memory::MemoryListBox& control = use(headless_.screen(), lists, list);
-  if (index < 0 || index >= control.itemCount()) {
-    throw StepRefused(std::string(list) + " has no item " + std::to_string(index) + ".");
-  }
+  auto& control = controls_.use<MemoryListBox>(list);
+  checkIndex(index, 0, control.itemCount(), list);
   control.doubleClick(index);
 }
 
-void MemoryDriver::clickButton(std::string_view button) { use(headless_.screen(), buttons, button).press(); }
+void MemoryDriver::clickButton(std::string_view button) {
+  if (button.starts_with("opt")) {
+    controls_.use<MemoryOptionButton>(button).select();
+  } else {
+    controls_.use<MemoryButton>(button).press();
+  }
+}
 
 void MemoryDriver::tick() { headless_.screen().tmrUpdateGrid.fire(); }
 
+void MemoryDriver::setWhileDialogOpen(std::function<void()> whileDialogOpen) {
+  headless_.screen().variableDialogs.setUser(
+      [user = std::move(whileDialogOpen)](MemoryVariableDialogControls&) { user(); });
+}
+
+std::string MemoryDriver::dialogCaption() const {
+  return isDialogOpen() ? controls_.dialog()->frmparams.caption() : "";
+}
+
+void MemoryDriver::closeDialog() {
+  if (!isDialogOpen()) throw StepRefused("No dialog is open.");
+  controls_.dialog()->frmparams.closeWindow();
+}
+
 ListView MemoryDriver::list(std::string_view name) const {
-  const memory::MemoryListBox& control = find(headless_.screen(), lists, name);
+  const auto& control = controls_.see<MemoryListBox>(name);
   return {control.items(), control.index()};
 }
 
+SelectionListView MemoryDriver::selectionList(std::string_view name) const {
+  const auto& control = controls_.see<MemorySelectionList>(name);
+  SelectionListView view;
+  for (int i = 0; i < control.itemCount(); ++i) {
+    view.items.push_back(control.itemText(i));
+    if (control.isSelected(i)) view.selected.push_back(i);
+  }
+  return view;
+}
+
 ComboView MemoryDriver::combo(std::string_view name) const {
-  const memory::MemoryComboBox& control = find(headless_.screen(), combos, name);
+  const auto& control = controls_.see<MemoryComboBox>(name);
   return {control.items(), control.text(), control.index()};
 }
 
-std::string MemoryDriver::textBox(std::string_view name) const {
-  return find(headless_.screen(), textBoxes, name).text();
+TextBoxView MemoryDriver::textBox(std::string_view name) const {
+  const auto& control = controls_.see<MemoryTextBox>(name);
+  return {control.text(), control.isUsable()};
 }
 
 FrameView MemoryDriver::frame(std::string_view name) const {
-  const memory::MemoryFrame& control = find(headless_.screen(), frames, name);
-  return {control.caption(), control.isUsable()};
+  const auto& control = controls_.see<MemoryFrame>(name);
+  return {control.caption(), control.isEnabledHere(), control.isVisible()};
 }
 
+bool MemoryDriver::option(std::string_view name) const { return controls_.see<MemoryOptionButton>(name).value(); }
+
 GridView MemoryDriver::grid(std::string_view name) const {
-  const memory::MemoryValueList& control = find(headless_.screen(), grids, name);
+  const auto& control = controls_.see<MemoryValueList>(name);
   GridView view;
   view.titles = {control.cellText(0, 0), control.cellText(1, 0)};
   for (int row = 1; row < control.RowCount(); ++row) {
@@ -149,8 +190,14 @@ GridView MemoryDriver::grid(std::string_view name) const {
   return view;
 }
 
+std::vector<std::string> MemoryDriver::menu(std::string_view name) const {
+  return controls_.see<MemoryPopupMenu>(name).visibleCaptions();
+}
+
+std::string MemoryDriver::toolTip() const { return headless_.screen().GrdAtom.toolTipText(); }
+
 TimerView MemoryDriver::timer(std::string_view name) const {
-  const memory::MemoryTimer& control = find(headless_.screen(), timers, name);
+  const auto& control = controls_.see<MemoryTimer>(name);
   return {control.isEnabled(), control.interval()};
 }
 

@@ -1,5 +1,7 @@
 #include "Output.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <string>
@@ -59,10 +61,29 @@ Json stateJson(const EditorControl& editor) {
       {"changed", editor.changedFlag()}, {"gridReady", editor.gridReady()}, {"currentRow", editor.currentGridRow()}};
 }
 
+// The name box of the dialog can be locked; the description cannot.
+Json textBoxJson(const TextBoxView& box, std::string_view name) {
+  if (name == "txtCycleDescription") return {{"text", box.text}};
+  return {{"text", box.text}, {"enabled", box.enabled}};
+}
+
+// Only the dialog's frames come and go.
+Json frameJson(const FrameView& frame, std::string_view name) {
+  constexpr std::array dialogFrames{"fraValue", "fraParamType", "fraValues", "fraObjects"};
+  Json json = {{"caption", frame.caption}, {"enabled", frame.enabled}};
+  if (std::ranges::find(dialogFrames, name) != dialogFrames.end()) json["visible"] = frame.visible;
+  return json;
+}
+
 Json stateOf(const ControlDriver& driver, std::string_view name) {
   if (name == "atoms") return atomsJson(driver.editor().atoms());
   if (name == "state") return stateJson(driver.editor());
   if (name == "rows") return rowsJson(driver.editor().parameterRows(), driver.grid("GrdAtom").rows.size());
+  if (name == "toolTip") return driver.toolTip();
+  if (name == "lstObject") {
+    const SelectionListView list = driver.selectionList(name);
+    return {{"items", list.items}, {"selected", list.selected}};
+  }
   if (name.starts_with("lst")) {
     const ListView list = driver.list(name);
     return {{"items", list.items}, {"index", list.index}};
@@ -71,11 +92,10 @@ Json stateOf(const ControlDriver& driver, std::string_view name) {
     const ComboView combo = driver.combo(name);
     return {{"items", combo.items}, {"text", combo.text}, {"index", combo.index}};
   }
-  if (name.starts_with("txt")) return {{"text", driver.textBox(name)}};
-  if (name.starts_with("fra")) {
-    const FrameView frame = driver.frame(name);
-    return {{"caption", frame.caption}, {"enabled", frame.enabled}};
-  }
+  if (name.starts_with("txt")) return textBoxJson(driver.textBox(name), name);
+  if (name.starts_with("fra")) return frameJson(driver.frame(name), name);
+  if (name.starts_with("opt")) return {{"value", driver.option(name)}};
+  if (name.starts_with("mnu")) return {{"items", driver.menu(name)}};
   if (name.starts_with("tmr")) {
     const TimerView timer = driver.timer(name);
     return {{"enabled", timer.enabled}, {"interval", timer.interval}};

@@ -50,39 +50,63 @@ class Player::Words {
 };
 
 const Player::Command Player::commands[] = {
-    {"SetConfigXML", &Player::setConfigXML},
-    {"SetXMLStrings", &Player::setXMLStrings},
-    {"Ignore_Hidden", &Player::ignoreHidden},
-    {"ResetCycle", &Player::resetCycle},
-    {"CycleChanged", &Player::cycleChanged},
-    {"RetrieveCycle", &Player::retrieveCycle},
-    {"choose", &Player::choose},
-    {"edit", &Player::edit},
-    {"type", &Player::type},
-    {"select", &Player::select},
-    {"dblclick", &Player::doubleClick},
-    {"click", &Player::click},
-    {"tick", &Player::tick},
-    {"show", &Player::show},
+    {"SetConfigXML", &Player::setConfigXML, Reach::Control},
+    {"SetXMLStrings", &Player::setXMLStrings, Reach::Control},
+    {"Ignore_Hidden", &Player::ignoreHidden, Reach::Control},
+    {"ResetCycle", &Player::resetCycle, Reach::Control},
+    {"CycleChanged", &Player::cycleChanged, Reach::Control},
+    {"RetrieveCycle", &Player::retrieveCycle, Reach::Control},
+    {"MacroString", &Player::macroString, Reach::Control},
+    {"choose", &Player::choose, Reach::Dialog},
+    {"leave", &Player::leave, Reach::Dialog},
+    {"edit", &Player::edit, Reach::Dialog},
+    {"press", &Player::press, Reach::Dialog},
+    {"hover", &Player::hover, Reach::Dialog},
+    {"context", &Player::context, Reach::Dialog},
+    {"menu", &Player::menu, Reach::Dialog},
+    {"type", &Player::type, Reach::Dialog},
+    {"select", &Player::select, Reach::Dialog},
+    {"dblclick", &Player::doubleClick, Reach::Dialog},
+    {"click", &Player::click, Reach::Dialog},
+    {"close", &Player::close, Reach::Dialog},
+    {"tick", &Player::tick, Reach::Control},
+    {"show", &Player::show, Reach::Dialog},
 };
 
 bool Player::play(Scenario& scenario) {
-  while (scenario.hasNext()) {
+  refused_ = false;
+  driver_.setWhileDialogOpen([this, &scenario] { playDialog(scenario); });
+  playWhile(scenario, [] { return true; });
+  return !refused_;
+}
+
+template <typename GoOn>
+void Player::playWhile(Scenario& scenario, const GoOn& goOn) {
+  while (!refused_ && goOn() && scenario.hasNext()) {
     const int line = scenario.nextLine();
     try {
       run(scenario.next());
     } catch (const StepRefused& refusal) {
+      refused_ = true;
       writeLine(output_, {{"error", refusal.what()}, {"line", line}});
-      return false;
     }
   }
-  return true;
+}
+
+void Player::playDialog(Scenario& scenario) {
+  writeLine(output_, {{"dialog", "frmparams"}, {"caption", driver_.dialogCaption()}});
+  playWhile(scenario, [this] { return driver_.isDialogOpen(); });
+  if (!driver_.isDialogOpen()) writeLine(output_, {{"dialog", "frmparams"}, {"closed", true}});
 }
 
 void Player::run(const Step& step) {
   const Step::Word& first = step.words.front();
   const auto* const command = std::ranges::find(commands, first.text, &Command::name);
   if (first.isText || command == std::end(commands)) throw StepRefused("There is no step " + first.text + ".");
+  if (command->reach == Reach::Control && driver_.isDialogOpen()) {
+    throw StepRefused("The step " + first.text + " has to wait until the dialog frmparams is closed.");
+  }
+  if (command->action != &Player::menu && command->action != &Player::show) driver_.dismissMenu();
   Words words(step);
   (this->*command->action)(words);
 }
@@ -124,6 +148,12 @@ void Player::retrieveCycle(Words& words) {
   writeLine(output_, {{"RetrieveCycle", cycle}});
 }
 
+void Player::macroString(Words& words) {
+  words.end();
+  const std::string macro = driver_.MacroString();
+  writeLine(output_, {{"MacroString", macro}});
+}
+
 void Player::choose(Words& words) {
   const std::string& control = words.name();
   if (!control.starts_with("cbo")) {
@@ -148,11 +178,57 @@ void Player::edit(Words& words) {
   driver_.editInGrid(grid, row, text);
 }
 
+void Player::leave(Words& words) {
+  const std::string& combo = words.name();
+  words.end();
+  driver_.leaveCombo(combo);
+}
+
+void Player::press(Words& words) {
+  const std::string& grid = words.name();
+  const int x = words.number();
+  const int y = words.number();
+  words.end();
+  driver_.pressInGrid(grid, x, y);
+}
+
+void Player::hover(Words& words) {
+  const std::string& grid = words.name();
+  const int x = words.number();
+  const int y = words.number();
+  words.end();
+  driver_.hoverOverGrid(grid, x, y);
+}
+
+void Player::context(Words& words) {
+  const std::string& grid = words.name();
+  const int x = words.number();
+  const int y = words.number();
+  words.end();
+  const auto captions = driver_.askForMenu(grid, x, y);
+  writeLine(output_, {{"popup", captions ? Json(*captions) : Json()}});
+}
+
+void Player::menu(Words& words) {
+  const int place = words.number();
+  words.end();
+  driver_.chooseFromMenu(place);
+}
+
+void Player::close(Words& words) {
+  words.end();
+  driver_.closeDialog();
+}
+
 void Player::type(Words& words) {
-  const std::string& textBox = words.name();
+  const std::string& control = words.name();
   const std::string& text = words.text();
   words.end();
-  driver_.replaceText(textBox, text);
+  if (control.starts_with("cbo")) {
+    driver_.typeInCombo(control, text);
+  } else {
+    driver_.replaceText(control, text);
+  }
 }
 
 void Player::select(Words& words) {

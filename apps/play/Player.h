@@ -16,18 +16,24 @@ class Player {
   Player(ControlDriver& driver, std::ostream& output) : driver_(driver), output_(output) {}
 
   /// Runs the scenario to its end, or to the first step that is unknown or that a user could not do: that one is
-  /// written as an error. True when all steps ran.
+  /// written as an error. True when all steps ran. A step that opens the variable dialog lasts until the dialog closes;
+  /// the steps meanwhile are the user's in the dialog.
   bool play(Scenario& scenario);
 
  private:
   class Words;
   using Action = void (Player::*)(Words&);
+  enum class Reach { Control, Dialog };  // what a step works on while the dialog is open
   struct Command {
     std::string_view name;
     Action action;
+    Reach reach;
   };
   static const Command commands[];
 
+  template <typename GoOn>
+  void playWhile(Scenario& scenario, const GoOn& goOn);
+  void playDialog(Scenario& scenario);
   void run(const Step& step);
   void setConfigXML(Words& words);
   void setXMLStrings(Words& words);
@@ -35,7 +41,14 @@ class Player {
   void resetCycle(Words& words);
   void cycleChanged(Words& words);
   void retrieveCycle(Words& words);
+  void macroString(Words& words);
   void choose(Words& words);
+  void leave(Words& words);
+  void press(Words& words);
+  void hover(Words& words);
+  void context(Words& words);
+  void menu(Words& words);
+  void close(Words& words);
   void edit(Words& words);
   void type(Words& words);
   void select(Words& words);
@@ -46,6 +59,7 @@ class Player {
 
   ControlDriver& driver_;
   std::ostream& output_;
+  bool refused_ = false;
 };
 
 }  // namespace mavCycEd::play

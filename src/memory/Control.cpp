@@ -4,6 +4,8 @@
 
 namespace mavCycEd::memory {
 
+bool Control::isEnabledHere() const { return enabled_ && (container_ == nullptr || container_->isEnabledHere()); }
+
 bool Control::isUsable() const { return enabled_ && visible_ && (container_ == nullptr || container_->isUsable()); }
 
 }  // namespace mavCycEd::memory

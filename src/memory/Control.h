@@ -14,6 +14,8 @@ class Control {
   bool isSelfVisible() const { return visible_; }
   void setSelfVisible(bool visible) { visible_ = visible; }
 
+  /// Whether it and every frame around it are enabled.
+  bool isEnabledHere() const;
   /// Whether a user can work with the control: it and every frame around it are enabled and visible.
   bool isUsable() const;
 

@@ -27,10 +27,16 @@ void MemoryComboBox::setIndex(int index) {
 }
 
 void MemoryComboBox::setText(std::string_view text) {
+  type(text);
+  notify(events_.Click);
+}
+
+void MemoryComboBox::type(std::string_view text) {
   const auto found = std::ranges::find(items_, text);
   index_ = found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
   text_ = text;
-  notify(events_.Click);
 }
+
+void MemoryComboBox::leave() { notify(events_.LostFocus); }
 
 }  // namespace mavCycEd::memory

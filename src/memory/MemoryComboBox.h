@@ -25,6 +25,10 @@ class MemoryComboBox : public platform::ComboBox, public Control {
   std::string text() const override { return text_; }
   void setText(std::string_view text) override;
 
+  /// The user types a text, which may be no item, in one change.
+  void type(std::string_view text);
+  /// The keyboard focus moves away.
+  void leave();
   const std::vector<std::string>& items() const { return items_; }
 
  private:
