@@ -1,0 +1,15 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/XmlDocument.h"
+
+namespace mavCycEd::libxml2 {
+
+/// Makes XML documents on libxml2. Documents share nothing: each may live in a thread of its own.
+class Libxml2DocumentFactory final : public platform::XmlDocumentFactory {
+ public:
+  std::unique_ptr<platform::XmlDocument> createDocument() override;
+};
+
+}  // namespace mavCycEd::libxml2
