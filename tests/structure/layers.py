@@ -64,6 +64,7 @@ class Check:
     def __init__(self, tree):
         self.tree = tree
         self.source_folder = tree / "src"
+        self.public_folders = sorted(self.source_folder.glob("*/include"))  # what hosts include, in angle brackets too
         self.problems = []
         self.files = {}  # file -> its includes of our own files, as (file, line)
         self.rooms = {}  # room -> room -> the first include that leads there, as "file:line"
@@ -111,9 +112,10 @@ class Check:
 
     def own_file(self, file, include):
         """The file of this tree that an include names; None if it names none."""
-        if not include.quoted:
-            return None
-        for folder in (file.parent, self.source_folder, self.tree / "apps", self.tree / "tests", self.tree):
+        folders = self.public_folders
+        if include.quoted:
+            folders = [file.parent, self.source_folder, *folders, *(self.tree / name for name in ("apps", "tests", "."))]
+        for folder in folders:
             candidate = (folder / include.name).resolve()
             if candidate.is_file() and self.tree in candidate.parents:
                 return candidate
@@ -192,7 +194,8 @@ def self_test():
         "src/catalogue/cAtom.cpp": '#include "catalogue/cAtom.h"\n// #include <QString>\n/*\n#include "qt/No.h"\n*/\n',
         "src/libxml2/Libxml2DocumentFactory.h": '#include <libxml/tree.h>\n#include "platform/XmlDocument.h"\n',
         "src/qt/Editor.h": '#include <QtWidgets/QWidget>\n#include "libxml2/Libxml2DocumentFactory.h"\n',
-        "src/qt/Editor.cpp": '#include "qt/Editor.h"\n#include "Editor.moc"\n',
+        "src/qt/Editor.cpp": '#include "qt/Editor.h"\n#include <editor/Public.h>\n#include "Editor.moc"\n',
+        "src/qt/include/editor/Public.h": "#include <QWidget>\n",
         "apps/host/main.cpp": '#include <QApplication>\n#include "qt/Editor.h"\n',
         "tests/core/Test.cpp": 'auto text = R"(\n#include "nowhere.h"\n)";\n#include "text/Strings.h"\n',
     }
@@ -203,6 +206,7 @@ def self_test():
         ("src/qt/Bad.cpp", "#include <libxml/tree.h>\n", "may not include <libxml/tree.h>"),
         ("src/platform/Bad.h", '#include "text/Strings.h"\n', 'the room "platform" may not include "text/Strings.h"'),
         ("src/catalogue/Bad.h", '#include "../qt/Editor.h"\n', 'the room "catalogue" may not include "qt/Editor.h"'),
+        ("src/control/Bad.h", "#include <editor/Public.h>\n", 'may not include "qt/include/editor/Public.h"'),
         ("src/memory/Bad.h", '#include "libxml2/Libxml2DocumentFactory.h"\n', 'the room "memory" may not include'),
         ("src/text/Bad.h", 'auto a = "/*";\n#include "text/Missing.h"\nauto b = "*/";\n',
          'there is no "text/Missing.h"'),
