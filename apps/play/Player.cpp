@@ -73,19 +73,19 @@ const Player::Command Player::commands[] = {
     {"show", &Player::show, Reach::Dialog},
 };
 
-bool Player::play(Scenario& scenario) {
+bool Player::play(StepSource& steps) {
   refused_ = false;
-  driver_.setWhileDialogOpen([this, &scenario] { playDialog(scenario); });
-  playWhile(scenario, [] { return true; });
+  driver_.setWhileDialogOpen([this, &steps] { playDialog(steps); });
+  playWhile(steps, [] { return true; });
   return !refused_;
 }
 
 template <typename GoOn>
-void Player::playWhile(Scenario& scenario, const GoOn& goOn) {
-  while (!refused_ && goOn() && scenario.hasNext()) {
-    const int line = scenario.nextLine();
+void Player::playWhile(StepSource& steps, const GoOn& goOn) {
+  while (!refused_ && goOn() && steps.hasNext()) {
+    const int line = steps.nextLine();
     try {
-      run(scenario.next());
+      run(steps.next());
     } catch (const StepRefused& refusal) {
       refused_ = true;
       writeLine(output_, {{"error", refusal.what()}, {"line", line}});
@@ -93,9 +93,9 @@ void Player::playWhile(Scenario& scenario, const GoOn& goOn) {
   }
 }
 
-void Player::playDialog(Scenario& scenario) {
+void Player::playDialog(StepSource& steps) {
   writeLine(output_, {{"dialog", "frmparams"}, {"caption", driver_.dialogCaption()}});
-  playWhile(scenario, [this] { return driver_.isDialogOpen(); });
+  playWhile(steps, [this] { return driver_.isDialogOpen(); });
   if (!driver_.isDialogOpen()) writeLine(output_, {{"dialog", "frmparams"}, {"closed", true}});
 }
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "ControlDriver.h"
-#include "Scenario.h"
+#include "StepSource.h"
 
 namespace mavCycEd::play {
 
@@ -18,7 +18,7 @@ class Player {
   /// Runs the scenario to its end, or to the first step that is unknown or that a user could not do: that one is
   /// written as an error. True when all steps ran. A step that opens the variable dialog lasts until the dialog closes;
   /// the steps meanwhile are the user's in the dialog.
-  bool play(Scenario& scenario);
+  bool play(StepSource& steps);
 
  private:
   class Words;
@@ -32,8 +32,8 @@ class Player {
   static const Command commands[];
 
   template <typename GoOn>
-  void playWhile(Scenario& scenario, const GoOn& goOn);
-  void playDialog(Scenario& scenario);
+  void playWhile(StepSource& steps, const GoOn& goOn);
+  void playDialog(StepSource& steps);
   void run(const Step& step);
   void setConfigXML(Words& words);
   void setXMLStrings(Words& words);

@@ -1,5 +1,6 @@
 #include "Scenario.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <nlohmann/json.hpp>
@@ -42,6 +43,16 @@ std::string literalValue(std::string_view literal) {
   return value.get<std::string>();
 }
 
+std::string_view withoutLeadingBlanks(std::string_view text) {
+  return text.substr(std::min(text.find_first_not_of(blanks), text.size()));
+}
+
+std::string contentOf(const std::filesystem::path& folder, std::string_view name) {
+  std::optional<std::string> content = readFile(folder / name);
+  if (!content) throw StepRefused("The file " + std::string(name) + " beside the scenario cannot be read.");
+  return *std::move(content);
+}
+
 }  // namespace
 
 Scenario::Scenario(const std::filesystem::path& file) : folder_(file.parent_path()) {
@@ -64,12 +75,16 @@ bool Scenario::hasNext() {
 }
 
 Step Scenario::next() {
-  std::string_view rest = lines_.at(static_cast<std::size_t>(line_));
+  const std::string& line = lines_.at(static_cast<std::size_t>(line_));
+  ++line_;
+  Step step = parsed(line, folder_);
+  step.line = line_;
+  return step;
+}
+
+Step Scenario::parsed(std::string_view line, const std::filesystem::path& folder) {
   Step step;
-  step.line = ++line_;
-  while (true) {
-    rest.remove_prefix(std::min(rest.find_first_not_of(blanks), rest.size()));
-    if (rest.empty()) return step;
+  for (std::string_view rest = withoutLeadingBlanks(line); !rest.empty(); rest = withoutLeadingBlanks(rest)) {
     if (rest.front() == '"') {
       const std::size_t size = literalSize(rest);
       step.words.push_back({literalValue(rest.substr(0, size)), true});
@@ -81,18 +96,10 @@ Step Scenario::next() {
     }
     const std::string_view word = rest.substr(0, rest.find_first_of(blanks));
     rest.remove_prefix(word.size());
-    if (word.front() == '@') {
-      step.words.push_back({contentOf(word.substr(1)), true});
-    } else {
-      step.words.push_back({std::string(word), false});
-    }
+    const bool isFile = word.front() == '@';
+    step.words.push_back({isFile ? contentOf(folder, word.substr(1)) : std::string(word), isFile});
   }
-}
-
-std::string Scenario::contentOf(std::string_view name) const {
-  std::optional<std::string> content = readFile(folder_ / name);
-  if (!content) throw StepRefused("The file " + std::string(name) + " beside the scenario cannot be read.");
-  return *std::move(content);
+  return step;
 }
 
 }  // namespace mavCycEd::play
