@@ -15,9 +15,9 @@ from typing import NamedTuple
 CORE = ("platform", "text", "catalogue", "cycle", "paramgrid", "editing", "control")
 ROOMS = {
     "platform": (),
-    "text": (),
+    "text": ("platform",),
     "catalogue": ("platform", "text"),
-    "cycle": ("platform", "text", "catalogue"),
+    "cycle": ("platform", "text", "catalogue", "paramgrid"),
     "paramgrid": ("platform", "text", "catalogue"),
     "editing": ("platform", "text", "catalogue", "cycle", "paramgrid"),
     "control": ("platform", "text", "catalogue", "cycle", "paramgrid", "editing"),
