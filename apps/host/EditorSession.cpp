@@ -1,0 +1,64 @@
+#include "EditorSession.h"
+
+#include <mavCycEd/ctlCycEd.h>
+
+#include <utility>
+
+namespace mavCycEd::host {
+
+EditorSession::EditorSession(ctlCycEd& editor)
+    : editor_(editor), changes_(editor, [this] { return baselineUnsaved_ || editor_.CycleChanged(); }) {
+  connect(&editor_, &ctlCycEd::CycleEditorError, this, [this](int, const QString& text) { reported_ << text; });
+}
+
+QStringList EditorSession::hand(const QString& cycle) {
+  reported_.clear();
+  editor_.SetConfigXML(configuration_);
+  editor_.setIgnore_Hidden(ignoreHidden_);
+  editor_.SetXMLStrings(catalogue_, cycle);
+  loaded_ = cycle;
+  return std::exchange(reported_, {});
+}
+
+QStringList EditorSession::load(const QString& cycle) {
+  const QStringList reported = hand(cycle);
+  baselineUnsaved_ = false;
+  changes_.settle(false);
+  return reported;
+}
+
+QStringList EditorSession::reload() {
+  const bool unsaved = changes_.ask();
+  QString cycle = editor_.RetrieveCycle();
+  if (cycle.isEmpty()) cycle = loaded_;
+  const QStringList reported = hand(cycle);
+  baselineUnsaved_ = unsaved;
+  changes_.settle(unsaved);
+  return reported;
+}
+
+bool EditorSession::reloadLosesInput() { return changes_.entered() && editor_.RetrieveCycle().isEmpty(); }
+
+bool EditorSession::hasUnsavedWork() {
+  if (changes_.ask()) return true;
+  // A cycle without atom lines never reads as changed, whatever its description and variables are.
+  return changes_.entered() && editor_.RetrieveCycle().isEmpty();
+}
+
+QString EditorSession::takeCycle() {
+  const QString cycle = editor_.RetrieveCycle();
+  if (cycle.isEmpty()) {
+    baselineUnsaved_ = baselineUnsaved_ || changes_.entered();
+  } else {
+    baselineUnsaved_ = true;
+    loaded_ = cycle;
+  }
+  return cycle;
+}
+
+void EditorSession::saved() {
+  baselineUnsaved_ = false;
+  changes_.settle(false);
+}
+
+}  // namespace mavCycEd::host

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "CycleFile.h"
+#include "EditorSession.h"
+#include "Problem.h"
+#include "RecentFiles.h"
+
+class QAction;
+class QLabel;
+class QMenu;
+class QSettings;
+
+namespace mavCycEd {
+class ctlCycEd;
+}
+
+namespace mavCycEd::host {
+
+class ErrorDock;
+class WelcomeBar;
+
+/// The program's window: the editor with files around it.
+class HostWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// The settings outlive the window.
+  explicit HostWindow(QSettings& settings);
+  ~HostWindow() override;
+  HostWindow(const HostWindow&) = delete;
+  HostWindow& operator=(const HostWindow&) = delete;
+
+  // What the command line asks for as well. Nothing changes when a problem is returned.
+  std::optional<Problem> openCatalogue(const QString& path);
+  std::optional<Problem> openConfiguration(const QString& path);
+  /// Opens a cycle in place of the one that is open. A problem is returned also for a cycle that could be shown in
+  /// part only; it is open then, without a file of its own.
+  std::optional<Problem> openCycle(const QString& path);
+  void setIgnoreHidden(bool ignore);
+  /// The cycle as the editor hands it back; empty when it has no atom lines.
+  QString takeCycle() { return session_->takeCycle(); }
+
+  /// Tells the operator in a message box.
+  void tell(const Problem& problem);
+
+ signals:
+  /// The editor reported an error; the text is for people.
+  void editorFailed(const QString& text);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  // Building.
+  void buildCentre();
+  void buildFileMenu();
+  void buildOtherMenus();
+  void buildStatusBar();
+  void connectEditor();
+  template <typename Command>
+  QAction* addCommand(QMenu& menu, const QString& text, const QKeySequence& keys, const QString& hint, Command command);
+
+  // Commands.
+  void newCycle();
+  void chooseCycle();
+  void chooseCatalogue();
+  void chooseConfiguration();
+  void openLastInstrument();
+  void openRecentCycle(const QString& path);
+  void toggleHidden(bool ignore);
+  bool save();
+  bool saveAs();
+  void showAbout();
+
+  // Steps of the commands.
+  std::optional<Problem> reloadWith(const QString& path, DocumentKind kind);
+  bool mayClose(const QString& purpose);
+  bool mayReload();
+  bool saveTo(const QString& path);
+  QString chooseFile(DocumentKind kind);
+  void tellIfAny(const std::optional<Problem>& problem);
+  void takePath(const QString& path, const QString& suggestion);
+  void showState();
+  void fillRecentMenu();
+  QString cycleName() const;
+
+  QSettings& settings_;
+  RecentFiles recentCycles_;
+  ctlCycEd* editor_;
+  std::unique_ptr<EditorSession> session_;
+  QString path_;        ///< the file of the cycle; empty: it has none yet
+  QString suggestion_;  ///< the name that saving suggests when there is no file
+  QString cataloguePath_;
+  QString configurationPath_;
+
+  WelcomeBar* welcome_ = nullptr;
+  ErrorDock* errors_ = nullptr;
+  QMenu* fileMenu_ = nullptr;
+  QMenu* recentMenu_ = nullptr;
+  QAction* lastInstrumentAction_ = nullptr;
+  QAction* hiddenAction_ = nullptr;
+  QLabel* instrumentLabel_ = nullptr;
+  QList<QAction*> cycleActions_;  ///< what needs an instrument
+};
+
+}  // namespace mavCycEd::host
