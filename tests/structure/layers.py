@@ -114,7 +114,7 @@ class Check:
         """The file of this tree that an include names; None if it names none."""
         folders = self.public_folders
         if include.quoted:
-            folders = [file.parent, self.source_folder, *folders, *(self.tree / name for name in ("apps", "tests", "."))]
+            folders = [file.parent, self.source_folder, *folders, self.tree / "apps", self.tree / "tests", self.tree]
         for folder in folders:
             candidate = (folder / include.name).resolve()
             if candidate.is_file() and self.tree in candidate.parents:
