@@ -1,0 +1,49 @@
+#include "qt/ComboWidget.h"
+
+#include <QAbstractItemView>
+#include <QFocusEvent>
+#include <QScrollBar>
+#include <QStylePainter>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "qt/FocusRules.h"
+
+namespace mavCycEd::qt {
+
+ComboWidget::ComboWidget(QWidget* parent) : QComboBox(parent) {
+  constexpr int mostVisibleItems = 20;
+  setMaxVisibleItems(mostVisibleItems);
+  // A list with a scroll bar in every style, not a menu as high as the screen.
+  setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+}
+
+void ComboWidget::showPopup() {
+  const int wanted = view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width();
+  constexpr int widest = 3;  // in widths of the combo box
+  view()->setMinimumWidth(std::min(wanted, widest * width()));
+  QComboBox::showPopup();
+}
+
+void ComboWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+void ComboWidget::focusOutEvent(QFocusEvent* event) {
+  QComboBox::focusOutEvent(event);
+  if (leavesControl(*event)) emit focusLeft();
+}
+
+void ComboWidget::paintEvent(QPaintEvent* event) {
+  if (isEditable() || currentIndex() >= 0) {
+    QComboBox::paintEvent(event);
+    return;
+  }
+  QStylePainter painter(this);
+  painter.setPen(palette().color(QPalette::Text));
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  option.currentText = placeholderText();
+  painter.drawComplexControl(QStyle::CC_ComboBox, option);
+  painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+}  // namespace mavCycEd::qt

@@ -1,0 +1,29 @@
+#include "qt/QtButton.h"
+
+#include <QPointer>
+
+#include "qt/Notify.h"
+#include "qt/Text.h"
+
+namespace mavCycEd::qt {
+
+QtButton::QtButton(const CommandGate& gate, const char* name, QWidget* parent)
+    : gate_(gate), button_(new QPushButton(parent)) {
+  button_->setObjectName(QLatin1String(name));
+  // Inside a host's dialog none of our buttons is what Enter presses.
+  button_->setAutoDefault(false);
+  connect(button_, &QPushButton::clicked, this, &QtButton::raiseClick);
+}
+
+void QtButton::setCaption(std::string_view caption) {
+  caption_ = caption;
+  button_->setText(toQt(caption));
+}
+
+void QtButton::raiseClick() {
+  const QPointer<QtButton> self(this);
+  gate_.pass();
+  if (self) tell(events_.Click);
+}
+
+}  // namespace mavCycEd::qt

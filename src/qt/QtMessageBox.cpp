@@ -1,0 +1,38 @@
+#include "qt/QtMessageBox.h"
+
+#include <QMessageBox>
+
+#include "qt/Text.h"
+#include "qt/WindowHandles.h"
+#include "text/LineEnds.h"
+
+namespace mavCycEd::qt {
+namespace {
+
+QMessageBox::Icon iconOf(int flags) {
+  constexpr int iconBits = 0x70;
+  switch (flags & iconBits) {
+    case platform::Critical: return QMessageBox::Critical;
+    case platform::Exclamation: return QMessageBox::Warning;
+    case platform::Information: return QMessageBox::Information;
+    default: return QMessageBox::NoIcon;
+  }
+}
+
+}  // namespace
+
+int QtMessageBox::messageBox(platform::WindowHandle owner, std::string_view message, std::string_view caption,
+                             int flags) {
+  QWidget* over = widgetOf(owner);
+  if (over == nullptr && control_) over = control_->window();
+  // The box goes with the window that it stands over, also while it is shown.
+  const QPointer<QMessageBox> box(
+      new QMessageBox(iconOf(flags), toQt(caption), toQt(text::toLf(message)), QMessageBox::Ok, over));
+  box->setTextFormat(Qt::PlainText);
+  box->setWindowModality(over != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+  box->exec();
+  delete box;
+  return platform::OkButton;
+}
+
+}  // namespace mavCycEd::qt

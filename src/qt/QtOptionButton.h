@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+#include <QRadioButton>
+#include <utility>
+
+#include "platform/OptionButton.h"
+#include "qt/CommandGate.h"
+
+namespace mavCycEd::qt {
+
+/// An option button. The options of one parent widget are one group.
+class QtOptionButton : public QObject, public platform::OptionButton {
+  Q_OBJECT
+
+ public:
+  QtOptionButton(const CommandGate& gate, const char* name, QWidget* parent);
+
+  QRadioButton* widget() const { return button_; }
+
+  void setEvents(platform::OptionButtonEvents events) override { events_ = std::move(events); }
+  std::string caption() const override { return caption_; }
+  void setCaption(std::string_view caption) override;
+  bool value() const override { return button_->isChecked(); }
+  void select() override;
+
+ private:
+  void raiseClick();
+
+  const CommandGate& gate_;
+  QRadioButton* button_;
+  platform::OptionButtonEvents events_;
+  std::string caption_;
+};
+
+}  // namespace mavCycEd::qt

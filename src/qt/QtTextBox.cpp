@@ -1,0 +1,55 @@
+#include "qt/QtTextBox.h"
+
+#include <QInputMethodEvent>
+#include <QScopedValueRollback>
+
+#include "qt/Notify.h"
+#include "qt/Text.h"
+#include "text/LineEnds.h"
+
+namespace mavCycEd::qt {
+
+QtTextBox::QtTextBox(const char* name, QWidget* parent) : edit_(new QPlainTextEdit(parent)) {
+  edit_->setObjectName(QLatin1String(name));
+  edit_->setTabChangesFocus(true);
+  edit_->installEventFilter(this);
+  connect(edit_, &QPlainTextEdit::textChanged, this, &QtTextBox::onTextChanged);
+}
+
+std::string QtTextBox::text() const { return text_; }
+
+void QtTextBox::setText(std::string_view text) {
+  text_ = text::toCrLf(text);
+  const QScopedValueRollback setting(settingText_, true);
+  edit_->setPlainText(toQt(text_));
+}
+
+void QtTextBox::focusAndSelectAll() {
+  edit_->setFocus();
+  edit_->selectAll();
+}
+
+// The raw text keeps the characters that the plain text replaces by blanks.
+std::string QtTextBox::typedText() const { return text::toCrLf(fromQt(edit_->document()->toRawText())); }
+
+void QtTextBox::onTextChanged() {
+  if (settingText_) return;
+  std::string typed = typedText();
+  if (composing_ && typed == text_) return;
+  text_ = std::move(typed);
+  tell(events_.Change);
+}
+
+bool QtTextBox::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::InputMethod:
+      composing_ = static_cast<const QInputMethodEvent*>(event)->commitString().isEmpty();
+      break;
+    case QEvent::KeyPress:
+    case QEvent::MouseButtonPress: composing_ = false; break;
+    default: break;
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace mavCycEd::qt
