@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QTableView>
+
+#include "platform/ValueListActiveX.h"
+#include "qt/CellEdit.h"
+#include "qt/GridUnits.h"
+
+namespace mavCycEd::qt {
+
+class ValueListModel;
+
+/// A value list on the screen: the keys and the mouse of its user. A value is edited in its cell: a click on it, F2,
+/// Enter or simply typing opens the editor.
+class ValueListView : public QTableView {
+  Q_OBJECT
+
+ public:
+  /// While one of these lives, what happens to the rows is code's doing and tells nothing; then the view shows the
+  /// current row.
+  class CodeChange {
+   public:
+    explicit CodeChange(ValueListView& view);
+    ~CodeChange();
+    CodeChange(const CodeChange&) = delete;
+    CodeChange& operator=(const CodeChange&) = delete;
+
+   private:
+    ValueListView& view_;
+    bool before_;
+  };
+
+  /// The model becomes the view's own.
+  ValueListView(ValueListModel* model, QWidget* parent);
+
+  CellEdit& cellEdit() { return *cellEdit_; }
+  const CellEdit& cellEdit() const { return *cellEdit_; }
+
+  /// Selects the current row of the rows and brings it into view.
+  void showCurrentRow();
+  /// The user makes a parameter row current; told when it was not.
+  void chooseRow(int row);
+  /// Opens the editor of the current row's value, if there is a row.
+  void editCurrentRow();
+  /// Closes the editor of an edit; the focus stays in the grid if it was in the editor.
+  void removeEditor(QWidget* editor) { closeEditor(editor, QAbstractItemDelegate::NoHint); }
+  /// Where the pop-up menu was last asked for, in global coordinates.
+  QPoint menuPlace() const { return menuPlace_; }
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  void rowChosen();
+  void mousePressed(mavCycEd::platform::MouseButton button, int x, int y);
+  void mouseMoved(int x, int y);
+  void menuAskedFor(int x, int y);
+
+ protected:
+  bool event(QEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+ private:
+  void setUpHeaders();
+  void fitRowHeight();
+  void fitColumns();
+  int rowBy(int key) const;
+  bool moveBy(int key);
+  void goOn(int row, CellEdit::Step step);
+  void onTitleEvent(const QEvent& event);
+  void askForMenu(int row, const QPoint& units, const QPoint& place);
+  int pageRows() const;
+
+  ValueListModel& model_;
+  CellEdit* cellEdit_;
+  GridUnits units_{*this};
+  QPoint menuPlace_;
+  double keyShare_ = 0.5;  // of the key column in the width
+  bool byCode_ = false;
+  bool listWanted_ = false;  // the mouse button went down on an arrow
+};
+
+}  // namespace mavCycEd::qt
