@@ -1,0 +1,124 @@
+#include "qt/EditorScreen.h"
+
+#include <QCoreApplication>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <array>
+#include <utility>
+
+namespace mavCycEd::qt {
+namespace {
+
+QString inWords(const char* text) { return QCoreApplication::translate("mavCycEd::ctlCycEd", text); }
+
+// A list with its buttons to the right of it.
+void layOutList(QGroupBox& frame, QWidget* list, std::initializer_list<QPushButton*> buttons) {
+  auto* const column = new QVBoxLayout;
+  for (QPushButton* const button : buttons) column->addWidget(button);
+  column->addStretch();
+  auto* const row = new QHBoxLayout(&frame);
+  row->addWidget(list);
+  row->addLayout(column);
+}
+
+}  // namespace
+
+EditorScreen::EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer)
+    : control_(control), tmrUpdateGrid_(std::move(gridTimer)) {
+  gate_.setEndEdit([this] { GrdAtom_.endEdit(); });
+  mnuSubParam_.setPlace([this] { return GrdAtom_.view()->menuPlace(); });
+  if (!tmrUpdateGrid_) {
+    auto timer = std::make_shared<QtTimer>("tmrUpdateGrid");
+    // The first row is not for an operator who is at work in another one already.
+    timer->setHold([this] { return GrdAtom_.isEditing(); });
+    tmrUpdateGrid_ = std::move(timer);
+  }
+  layOut();
+  connectKeys();
+  setTabOrder();
+  nameForPeople();
+}
+
+ControlScreen EditorScreen::controls() {
+  return {fraCyclePart_, fraDescription_, txtCycleDescription_, fraAtom_,        lstAtomSequence_,
+          cmdInset_,     cmdReplace_,     cmdDelete_,           fraVariables_,   lstVariables_,
+          cmdIns_,       cmdDel_,         fraSelectedMacro_,    cboAtom_,        GrdAtom_,
+          cmdDefault_,   mnuSubParam_,    *tmrUpdateGrid_,      variableDialogs_};
+}
+
+void EditorScreen::layOut() {
+  layOutSelectedMacro();
+  (new QVBoxLayout(fraDescription_.widget()))->addWidget(txtCycleDescription_.widget());
+  layOutList(*fraAtom_.widget(), lstAtomSequence_.widget(),
+             {cmdInset_.widget(), cmdReplace_.widget(), cmdDelete_.widget()});
+  layOutList(*fraVariables_.widget(), lstVariables_.widget(), {cmdIns_.widget(), cmdDel_.widget()});
+
+  auto* const parts = new QSplitter(Qt::Vertical, fraCyclePart_.widget());
+  parts->setChildrenCollapsible(false);
+  parts->addWidget(fraDescription_.widget());
+  parts->addWidget(fraAtom_.widget());
+  parts->addWidget(fraVariables_.widget());
+  parts->setStretchFactor(0, 1);
+  parts->setStretchFactor(1, 4);
+  parts->setStretchFactor(2, 2);
+  (new QVBoxLayout(fraCyclePart_.widget()))->addWidget(parts);
+
+  auto* const halves = new QSplitter(Qt::Horizontal, &control_);
+  halves->setChildrenCollapsible(false);
+  halves->addWidget(fraSelectedMacro_.widget());
+  halves->addWidget(fraCyclePart_.widget());
+  halves->setStretchFactor(0, 1);
+  halves->setStretchFactor(1, 1);
+  auto* const whole = new QVBoxLayout(&control_);
+  whole->addWidget(halves);
+}
+
+void EditorScreen::layOutSelectedMacro() {
+  auto* const buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(cmdDefault_.widget());
+  auto* const column = new QVBoxLayout(fraSelectedMacro_.widget());
+  column->addWidget(cboAtom_.widget());
+  column->addWidget(GrdAtom_.widget());
+  column->addLayout(buttons);
+}
+
+// What the mouse does by clicks and double clicks has its keys, each good only in its own list.
+void EditorScreen::connectKeys() {
+  QObject::connect(lstAtomSequence_.widget(), &TextListView::deletePressed, cmdDelete_.widget(), &QPushButton::click);
+  QObject::connect(lstVariables_.widget(), &TextListView::deletePressed, cmdDel_.widget(), &QPushButton::click);
+  QObject::connect(lstAtomSequence_.widget(), &TextListView::returnPressed, GrdAtom_.view(),
+                   &ValueListView::editCurrentRow);
+  QObject::connect(lstVariables_.widget(), &TextListView::returnPressed, &lstVariables_, &QtListBox::doubleClick);
+}
+
+// The way of the work: choose an atom, fill in its values, put it into the sequence.
+void EditorScreen::setTabOrder() {
+  const std::array<QWidget*, 11> order{
+      cboAtom_.widget(),         GrdAtom_.view(),     cmdInset_.widget(),   cmdReplace_.widget(),
+      lstAtomSequence_.widget(), cmdDelete_.widget(), cmdDefault_.widget(), txtCycleDescription_.widget(),
+      lstVariables_.widget(),    cmdIns_.widget(),    cmdDel_.widget()};
+  for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+void EditorScreen::nameForPeople() {
+  cboAtom_.widget()->setAccessibleName(inWords("Atom"));
+  GrdAtom_.view()->setAccessibleName(inWords("Atom parameters"));
+  cmdDefault_.widget()->setAccessibleName(inWords("Default parameters"));
+  txtCycleDescription_.widget()->setAccessibleName(inWords("Cycle description"));
+  lstAtomSequence_.widget()->setAccessibleName(inWords("Atom sequence"));
+  cmdInset_.widget()->setAccessibleName(inWords("Insert atom"));
+  cmdReplace_.widget()->setAccessibleName(inWords("Replace atom"));
+  cmdDelete_.widget()->setAccessibleName(inWords("Delete atom"));
+  lstVariables_.widget()->setAccessibleName(inWords("Cycle variables"));
+  cmdIns_.widget()->setAccessibleName(inWords("Insert variable"));
+  cmdDel_.widget()->setAccessibleName(inWords("Delete variable"));
+  fraSelectedMacro_.widget()->setAccessibleName(inWords("Selected atom"));
+  fraCyclePart_.widget()->setAccessibleName(inWords("Cycle"));
+  fraDescription_.widget()->setAccessibleName(inWords("Description"));
+  fraAtom_.widget()->setAccessibleName(inWords("Atom sequence"));
+  fraVariables_.widget()->setAccessibleName(inWords("Cycle variables"));
+  mnuSubParam_.widget()->setAccessibleName(inWords("Offered values"));
+}
+
+}  // namespace mavCycEd::qt

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "control/ControlScreen.h"
+#include "qt/CommandGate.h"
+#include "qt/QtButton.h"
+#include "qt/QtComboBox.h"
+#include "qt/QtFrame.h"
+#include "qt/QtListBox.h"
+#include "qt/QtPopupMenu.h"
+#include "qt/QtTextBox.h"
+#include "qt/QtTimer.h"
+#include "qt/QtValueList.h"
+#include "qt/QtVariableDialog.h"
+
+namespace mavCycEd::qt {
+
+/// The screen of the editor: its child controls, and where they stand in the control's widget.
+class EditorScreen {
+ public:
+  /// Fills `control` with widgets, which it owns. Without a grid timer the screen has its own, which waits while a
+  /// value is being edited.
+  EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer);
+
+  ControlScreen controls();
+
+  /// What commands pass before they run.
+  const CommandGate& gate() const { return gate_; }
+
+ private:
+  void layOut();
+  void layOutSelectedMacro();
+  void layOutAtoms();
+  void layOutVariables();
+  void connectKeys();
+  void setTabOrder();
+  void nameForPeople();
+
+  QWidget& control_;
+  CommandGate gate_;
+  QtFrame fraSelectedMacro_{"fraSelectedMacro", &control_};
+  QtComboBox cboAtom_{gate_, QtComboBox::Mode::PickOnly, "cboAtom", fraSelectedMacro_.widget()};
+  QtValueList GrdAtom_{"GrdAtom", fraSelectedMacro_.widget()};
+  QtButton cmdDefault_{gate_, "cmdDefault", fraSelectedMacro_.widget()};
+  QtFrame fraCyclePart_{"fraCyclePart", &control_};
+  QtFrame fraDescription_{"fraDescription", fraCyclePart_.widget()};
+  QtTextBox txtCycleDescription_{"txtCycleDescription", fraDescription_.widget()};
+  QtFrame fraAtom_{"fraAtom", fraCyclePart_.widget()};
+  QtListBox lstAtomSequence_{gate_, "lstAtomSequence", fraAtom_.widget()};
+  QtButton cmdInset_{gate_, "cmdInset", fraAtom_.widget()};
+  QtButton cmdReplace_{gate_, "cmdReplace", fraAtom_.widget()};
+  QtButton cmdDelete_{gate_, "cmdDelete", fraAtom_.widget()};
+  QtFrame fraVariables_{"fraVariables", fraCyclePart_.widget()};
+  QtListBox lstVariables_{gate_, "lstVariables", fraVariables_.widget()};
+  QtButton cmdIns_{gate_, "cmdIns", fraVariables_.widget()};
+  QtButton cmdDel_{gate_, "cmdDel", fraVariables_.widget()};
+  QtPopupMenu mnuSubParam_{gate_, "mnuParam", &control_};
+  std::shared_ptr<platform::Timer> tmrUpdateGrid_;
+  QtVariableDialogs variableDialogs_{control_};
+};
+
+}  // namespace mavCycEd::qt

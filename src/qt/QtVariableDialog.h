@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "editing/VariableDialogScreen.h"
+#include "qt/CommandGate.h"
+#include "qt/QtButton.h"
+#include "qt/QtComboBox.h"
+#include "qt/QtFrame.h"
+#include "qt/QtLabel.h"
+#include "qt/QtLineBox.h"
+#include "qt/QtModalDialog.h"
+#include "qt/QtOptionButton.h"
+#include "qt/QtPopupMenu.h"
+#include "qt/QtSelectionList.h"
+#include "qt/QtValueList.h"
+
+namespace mavCycEd::qt {
+
+/// The window of the variable dialog. Enter presses OK, Esc closes.
+class QtVariableDialog : public VariableDialogScreen {
+ public:
+  explicit QtVariableDialog(QWidget* owner);
+
+  platform::ModalDialog& frmparams() override { return frmparams_; }
+  platform::Frame& fraValue() override { return fraValue_; }
+  platform::TextBox& txtParamName() override { return txtParamName_; }
+  platform::Frame& fraParamType() override { return fraParamType_; }
+  platform::OptionButton& optNrValue() override { return optNrValue_; }
+  platform::OptionButton& optObjValue() override { return optObjValue_; }
+  platform::Frame& fraValues() override { return fraValues_; }
+  platform::ValueListActiveX& grdParamStnd() override { return grdParamStnd_; }
+  platform::Label& lblUnit() override { return lblUnit_; }
+  platform::ComboBox& cboUnit() override { return cboUnit_; }
+  platform::Frame& fraObjects() override { return fraObjects_; }
+  platform::SelectionList& lstObject() override { return lstObject_; }
+  platform::Button& OKButton() override { return OKButton_; }
+  platform::Button& cmdCancel() override { return cmdCancel_; }
+  platform::PopupMenu& mnuSyrConstant() override { return mnuSyrConstant_; }
+
+ private:
+  QWidget* window() const { return frmparams_.widget(); }
+  void layOut();
+  void setTabOrder();
+  void nameForPeople();
+
+  CommandGate gate_;
+  QtModalDialog frmparams_;
+  QtFrame fraValue_{"fraValue", window()};
+  QtLineBox txtParamName_{"txtParamName", fraValue_.widget()};
+  QtFrame fraParamType_{"fraParamType", window()};
+  QtOptionButton optNrValue_{gate_, "optNrValue", fraParamType_.widget()};
+  QtOptionButton optObjValue_{gate_, "optObjValue", fraParamType_.widget()};
+  QtFrame fraValues_{"fraValues", window()};
+  QtValueList grdParamStnd_{"grdParamStnd", fraValues_.widget()};
+  QtLabel lblUnit_{"lblUnit", fraValues_.widget()};
+  QtComboBox cboUnit_{gate_, QtComboBox::Mode::TypedToo, "cboUnit", fraValues_.widget()};
+  QtFrame fraObjects_{"fraObjects", window()};
+  QtSelectionList lstObject_{"lstObject", fraObjects_.widget()};
+  QtButton OKButton_{gate_, "OKButton", window()};
+  QtButton cmdCancel_{gate_, "cmdCancel", window()};
+  QtPopupMenu mnuSyrConstant_{gate_, "mnuSyrConstants", window()};
+};
+
+/// Makes variable dialogs over the window of a control.
+class QtVariableDialogs : public VariableDialogFactory {
+ public:
+  explicit QtVariableDialogs(QWidget& control) : control_(control) {}
+
+  std::unique_ptr<VariableDialogScreen> createVariableDialog() override {
+    return std::make_unique<QtVariableDialog>(&control_);
+  }
+
+ private:
+  QWidget& control_;
+};
+
+}  // namespace mavCycEd::qt

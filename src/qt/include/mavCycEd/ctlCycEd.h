@@ -1,0 +1,95 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <memory>
+
+#include "HostServices.h"
+
+namespace mavCycEd {
+
+class EditorControl;
+
+/// An editor for the cycles of an autosampler: a widget that a host places on one of its windows.
+///
+/// The host hands over a configuration, a catalogue of atoms and a cycle; the user edits the cycle; the host asks
+/// whether it changed and takes it back:
+///
+///     auto* editor = new mavCycEd::ctlCycEd(window);
+///     QObject::connect(editor, &mavCycEd::ctlCycEd::CycleEditorError, window, &Window::logError);
+///     editor->SetConfigXML(configuration);
+///     editor->SetXMLStrings(catalogue, cycle);
+///     ...
+///     if (editor->property("CycleChanged").toBool()) save(editor->RetrieveCycle());
+///
+/// All texts come and go as QString; a file's encoding is the host's affair, and an encoding named in an XML
+/// declaration is ignored. No exception leaves the control and no member returns an error code: failures are told by
+/// CycleEditorError, after which the control keeps the state that it had reached.
+///
+/// All members belong to the thread of the user interface. A window may hold several controls; they share nothing. A
+/// host that destroys the control from a slot of CycleEditorError calls deleteLater().
+class ctlCycEd : public QWidget {
+  Q_OBJECT
+  /// Write-only. True: atoms, objects and arguments that the catalogue and the configuration mark as hidden are offered
+  /// all the same. It takes effect at the next SetXMLStrings. False at first.
+  Q_PROPERTY(bool Ignore_Hidden WRITE setIgnore_Hidden)
+  /// Read-only. Whether the cycle, as RetrieveCycle would hand it back, differs from the one that was loaded or handed
+  /// back last. It is found out anew at every reading, by writing the cycle and comparing: a change that was taken back
+  /// reads false. Reading it does not disturb a user who is typing.
+  Q_PROPERTY(bool CycleChanged READ CycleChanged)
+  /// Write-only. A cycle document that becomes the control's working document. The screen and what CycleChanged
+  /// compares with stay as they are.
+  Q_PROPERTY(QString ResetCycle WRITE setResetCycle)
+
+ public:
+  /// The error numbers that the control itself reports.
+  enum mavCycEdError {
+    /// A text that should be XML is unusable (hexadecimal 80040201).
+    mavCycEdErrorInvalidXML = -2147220991,
+  };
+  Q_ENUM(mavCycEdError)
+
+  explicit ctlCycEd(QWidget* parent = nullptr);
+  explicit ctlCycEd(HostServices services, QWidget* parent = nullptr);
+  ~ctlCycEd() override;
+
+  /// Stores the configuration: XML with root Config, whose children Arguments/OBJECT say which arguments an object type
+  /// offers. It is read when a question needs it, so this comes before SetXMLStrings. A text that is no XML counts as
+  /// an empty configuration.
+  Q_INVOKABLE void SetConfigXML(const QString& strConfigXml);
+
+  /// Loads a catalogue and a cycle and fills the screen; whatever was loaded before is gone.
+  ///
+  /// strLatestKam: XML with root LATESTKAM, holding ATOMS, CLASSES, OBJECTS and LISTS. An empty or unusable one
+  /// disables the screen and is told by CycleEditorError with the number mavCycEdErrorInvalidXML.
+  /// strCycle: XML with root CYCLE, or a macro text whose first line is [PMA], or nothing for a new cycle. A text that
+  /// is neither loads as a new cycle.
+  Q_INVOKABLE void SetXMLStrings(const QString& strLatestKam, const QString& strCycle);
+
+  /// The edited cycle as XML with root CYCLE, empty when its sequence of atoms is empty. From now on CycleChanged
+  /// compares with it.
+  Q_INVOKABLE QString RetrieveCycle();
+
+  void setIgnore_Hidden(bool booNewValue);
+  bool CycleChanged();
+  void setResetCycle(const QString& strCycle);
+
+ signals:
+  /// A procedure of the control has failed.
+  /// lngError: the error's number; mavCycEdErrorInvalidXML, or a usual run-time error number.
+  /// strError: what happened, in words.
+  /// strApplication: "mavCycEd", and the library's version.
+  /// strModule: "ctlCycEd".
+  /// strProcedure: the failing procedure's name and one blank.
+  /// intLineNumber: the failing line, 0 where none is known.
+  void CycleEditorError(int lngError, const QString& strError, const QString& strApplication, const QString& strModule,
+                        const QString& strProcedure, qint16 intLineNumber);
+
+ private:
+  friend EditorControl& editorOf(ctlCycEd& control);
+
+  class Implementation;
+  std::unique_ptr<Implementation> implementation_;
+};
+
+}  // namespace mavCycEd
