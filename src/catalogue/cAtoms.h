@@ -33,6 +33,11 @@ class cAtoms {
       ++at_;
       return *this;
     }
+    Enumerator operator++(int) {
+      const Enumerator before = *this;
+      ++at_;
+      return before;
+    }
     bool operator==(const Enumerator& other) const { return at_ == other.at_; }
 
    private:

@@ -42,10 +42,8 @@ XmlNodeList modCycleHelper::objects() const {
 
 std::string modCycleHelper::classNames() const {
   std::string names;
-  for (const XmlNode& element : select("LATESTKAM/CLASSES/CLASS")) {
-    const XmlNode name = element.selectSingleNode("CLASSName");
-    const std::string text = name ? name.text() : std::string();
-    if (!text.empty()) names += ";" + text;
+  for (const XmlNode& name : select("LATESTKAM/CLASSES/CLASS/CLASSName")) {
+    if (const std::string text = name.text(); !text.empty()) names += ";" + text;
   }
   if (text::hasMoreCharactersThan(names, 2)) names.erase(0, 1);
   return names;

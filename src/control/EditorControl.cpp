@@ -141,11 +141,10 @@ class EditorControl::Implementation {
   }
 
   void fillAtomPicker() {
-    std::vector<std::string> names = catalogue_.atomNames();
-    for (std::string& name : provider_->furtherAtomNames()) {
-      if (!name.empty()) names.push_back(std::move(name));
+    screen_.cboAtom.assign(catalogue_.atomNames());
+    for (const std::string& name : provider_->furtherAtomNames()) {
+      if (!name.empty()) screen_.cboAtom.addItem(name);
     }
-    screen_.cboAtom.assign(std::move(names));
   }
 
   void loadCycle(std::string_view strCycle) {

@@ -17,7 +17,8 @@ namespace mavCycEd {
 /// edition makes the screen and the services and gives them to this class; everything else happens here.
 ///
 /// All members run on the user-interface thread. No exception leaves a member: failures reach the host through the
-/// CycleEditorError handler.
+/// CycleEditorError handler, while the procedure that failed is still on its way back. The handler must not destroy the
+/// control, and the control must not be destroyed while one of its message boxes or its dialog is open.
 class EditorControl {
  public:
   /// Starts the control on a screen: captions and titles are set, the timer is off, nothing is loaded. Without a

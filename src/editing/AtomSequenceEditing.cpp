@@ -54,6 +54,7 @@ bool AtomSequenceEditing::valuesStand() {
   for (int row = 1; row < screen_.GrdAtom.RowCount(); ++row) {
     if (grid_.validation.Check_Range(screen_.GrdAtom.cellText(1, row), row)) continue;
     screen_.GrdAtom.focusValue(row);
+    grid_.state.currentRow = row;
     return false;
   }
   return true;

@@ -25,7 +25,7 @@ class AtomSequenceEditing {
     platform::Timer& tmrUpdateGrid;
   };
 
-  /// What the commands have done by others in the grid.
+  /// The parameter grid's state, and the classes that fill and check it.
   struct Grid {
     GridState& state;
     ParamGrid& filling;

@@ -68,42 +68,42 @@ bool CycleVariables::tellUses(std::string variable) {
   if (uses.empty()) return false;
   std::string message = "The variable \"" + variable + "\" is in use:";
   message.append(crLf).append(crLf).append(uses);
-  with_.messages.messageBox(0, message, text::controlTitle, platform::Exclamation | platform::OkOnly);
+  surroundings_.messages.messageBox(0, message, text::controlTitle, platform::Exclamation | platform::OkOnly);
   return true;
 }
 
 void CycleVariables::cmdDel_Click() {
   guarded(errors_, "cmdDel_Click", [this] {
-    const int index = with_.lstVariables.index();
+    const int index = surroundings_.lstVariables.index();
     if (index < 0) return;
-    const std::string entry = with_.lstVariables.itemText(index);
+    const std::string entry = surroundings_.lstVariables.itemText(index);
     if (tellUses(entry)) return;
     cycle_.changed = true;
     extraValues_.Delete_Extra_Udons(entry);
-    with_.lstVariables.removeItem(index);
-    with_.lstVariables.setIndex(index - 1);
+    surroundings_.lstVariables.removeItem(index);
+    surroundings_.lstVariables.setIndex(index - 1);
   });
 }
 
 void CycleVariables::cmdIns_Click() {
   guarded(errors_, "cmdIns_Click", [this] {
-    if (with_.cboAtom.text().empty()) return;
+    if (surroundings_.cboAtom.text().empty()) return;
     cycle_.changed = true;
-    const int index = with_.lstVariables.index();
+    const int index = surroundings_.lstVariables.index();
     exchange_ = DialogExchange();
     runDialog(false);
     const std::string result = exchange_.resultText;
     extraValues_.Add_Extra_Udons(result);
     if (result.empty()) return;
-    insertEntry(index < 0 ? with_.lstVariables.itemCount() : index, result);
+    insertEntry(index < 0 ? surroundings_.lstVariables.itemCount() : index, result);
     // The list is left scrolled to its end, with nothing selected.
-    with_.lstVariables.setIndex(with_.lstVariables.itemCount() - 1);
-    with_.lstVariables.setIndex(-1);
+    surroundings_.lstVariables.setIndex(surroundings_.lstVariables.itemCount() - 1);
+    surroundings_.lstVariables.setIndex(-1);
   });
 }
 
 void CycleVariables::insertEntry(int position, const std::string& entry) {
-  platform::ListBox& list = with_.lstVariables;
+  platform::ListBox& list = surroundings_.lstVariables;
   list.addItem(entry);
   for (int i = list.itemCount() - 1; i > position; --i) list.setItemText(i, list.itemText(i - 1));
   list.setItemText(position, entry);
@@ -111,9 +111,9 @@ void CycleVariables::insertEntry(int position, const std::string& entry) {
 
 void CycleVariables::lstVariables_DblClick() {
   guarded(errors_, "lstVariables_DblClick", [this] {
-    const int index = with_.lstVariables.index();
+    const int index = surroundings_.lstVariables.index();
     if (index < 0) return;
-    const std::string entry = with_.lstVariables.itemText(index);
+    const std::string entry = surroundings_.lstVariables.itemText(index);
     const bool inUse = tellUses(entry);
     cycle_.changed = true;
     exchange_ = {true, entry, {}};
@@ -124,17 +124,18 @@ void CycleVariables::lstVariables_DblClick() {
       exchange_.editedText.clear();
     }
     if (!exchange_.resultText.empty()) {
-      with_.lstVariables.setItemText(index, exchange_.resultText);
+      surroundings_.lstVariables.setItemText(index, exchange_.resultText);
       cboAtom_Click_();
     }
     exchange_.editMode = false;
-    with_.lstVariables.setIndex(-1);
+    surroundings_.lstVariables.setIndex(-1);
   });
 }
 
 void CycleVariables::runDialog(bool nameLocked) {
-  const std::unique_ptr<VariableDialogScreen> screen = with_.dialogs.createVariableDialog();
-  frmparams dialog(*screen, exchange_, with_.catalogue, with_.provider, with_.messages, errors_);
+  const std::unique_ptr<VariableDialogScreen> screen = surroundings_.dialogs.createVariableDialog();
+  frmparams dialog(*screen, exchange_, surroundings_.catalogue, surroundings_.provider, surroundings_.messages,
+                   errors_);
   dialog.Form_Load();
   if (nameLocked) dialog.lockName();
   dialog.show();

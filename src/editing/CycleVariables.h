@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "catalogue/AtomListProvider.h"
 #include "catalogue/modCycleHelper.h"
@@ -34,7 +35,7 @@ class CycleVariables {
   CycleVariables(CycleState& cycle, const Surroundings& surroundings, ExtraValues& extraValues,
                  std::function<void()> cboAtom_Click, ErrorSink& errors)
       : cycle_(cycle),
-        with_(surroundings),
+        surroundings_(surroundings),
         extraValues_(extraValues),
         cboAtom_Click_(std::move(cboAtom_Click)),
         errors_(errors) {}
@@ -54,7 +55,7 @@ class CycleVariables {
   void runDialog(bool nameLocked);
 
   CycleState& cycle_;
-  Surroundings with_;
+  Surroundings surroundings_;
   ExtraValues& extraValues_;
   std::function<void()> cboAtom_Click_;
   ErrorSink& errors_;

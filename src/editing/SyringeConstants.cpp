@@ -11,6 +11,7 @@ void SyringeConstants::cboUnit_LostFocus() {
     EmptyMnu();
     platform::PopupMenu& menu = screen_.mnuSyrConstant();
     for (const std::string& value : values) {
+      if (value.empty()) continue;
       if (menu.itemCaption(0).empty()) {
         menu.setItemCaption(0, value);
       } else if (!IsMenuItem(value)) {
@@ -37,7 +38,7 @@ bool SyringeConstants::IsMenuItem(std::string_view caption) const {
 
 void SyringeConstants::grdParamStnd_OnMouseDown(platform::MouseButton button) {
   guarded(errors_, "grdParamStnd_OnMouseDown", [&] {
-    if (button != platform::MouseButton::Middle) pressedRow_ = screen_.grdParamStnd().Row();
+    if (button == platform::MouseButton::Primary) pressedRow_ = screen_.grdParamStnd().Row();
   });
 }
 

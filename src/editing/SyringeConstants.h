@@ -15,9 +15,11 @@ class SyringeConstants {
   SyringeConstants(VariableDialogScreen& screen, modCycleHelper& catalogue, ErrorSink& errors)
       : screen_(screen), catalogue_(catalogue), errors_(errors) {}
 
-  /// The unit stands: gathers the values for it.
+  /// The focus left the unit box: gathers the values of the unit that stands there.
   void cboUnit_LostFocus();
+  /// Remembers the row that the primary button pressed.
   void grdParamStnd_OnMouseDown(platform::MouseButton button);
+  /// Shows the menu when the pointer is over the values of the three settings.
   void grdParamStnd_OnContextPopup(int x, int y);
   /// Puts the chosen value into the row that was pressed last, or into the first one.
   void mnuSyrConstant_Click(int index);

@@ -25,6 +25,8 @@ std::string variableName(std::string_view definition) {
   return std::string(text::trimSpaces(before(field, '(')));
 }
 
+std::string objectName(std::string_view definition) { return std::string(before(before(definition, ';'), '(')); }
+
 NumberDefinition parseNumber(std::string_view definition) {
   constexpr std::size_t fieldCount = 4;
   NumberDefinition number;
@@ -32,7 +34,7 @@ NumberDefinition parseNumber(std::string_view definition) {
   number.unit = unitOf(before(definition, ';'));
   const auto fields = text::split(definition, ';');
   if (fields.size() >= fieldCount) {
-    number.standard = fields[1];
+    number.defaultValue = fields[1];
     number.lower = fields[2];
     number.upper = fields[3];
   }
@@ -41,11 +43,13 @@ NumberDefinition parseNumber(std::string_view definition) {
 
 std::string numberDefinition(const NumberDefinition& number) {
   const std::string unit = number.unit == noUnit ? std::string() : number.unit;
-  return number.name + " (" + unit + ");" + number.standard + ";" + number.lower + ";" + number.upper;
+  return number.name + " (" + unit + ");" + number.defaultValue + ";" + number.lower + ";" + number.upper;
 }
 
 std::string objectDefinition(std::string_view name, const std::vector<std::string>& objectTypes) {
-  return std::string(name) + ";" + text::join(objectTypes, ";");
+  std::string types = text::join(objectTypes, ";");
+  if (types.starts_with(';')) types.erase(0, 1);
+  return std::string(name) + ";" + types;
 }
 
 }  // namespace mavCycEd

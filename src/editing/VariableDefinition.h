@@ -15,7 +15,7 @@ namespace mavCycEd {
 struct NumberDefinition {
   std::string name;
   std::string unit;  ///< "None" when the parentheses are empty or missing
-  std::string standard;
+  std::string defaultValue;
   std::string lower;
   std::string upper;
 };
@@ -23,6 +23,9 @@ struct NumberDefinition {
 /// The name in a definition text: what stands before the first ";", and of that what stands before the first "(",
 /// without spaces at both ends.
 std::string variableName(std::string_view definition);
+
+/// The name in an object's definition, as the dialog shows it: the same without trimming.
+std::string objectName(std::string_view definition);
 
 /// The parts of a number's definition; the three values are empty when it has fewer than four fields.
 NumberDefinition parseNumber(std::string_view definition);

@@ -76,6 +76,19 @@ void frmparams::connect() {
   screen_.mnuSyrConstant().setEvents({.Click = [this](int index) { constants_.mnuSyrConstant_Click(index); }});
 }
 
+frmparams::~frmparams() { disconnect(); }
+
+void frmparams::disconnect() {
+  screen_.txtParamName().setEvents({});
+  screen_.optNrValue().setEvents({});
+  screen_.optObjValue().setEvents({});
+  screen_.OKButton().setEvents({});
+  screen_.cmdCancel().setEvents({});
+  screen_.cboUnit().setEvents({});
+  screen_.grdParamStnd().setEvents({});
+  screen_.mnuSyrConstant().setEvents({});
+}
+
 void frmparams::Form_Load() {
   guarded(errors_, "Form_Load", [this] {
     screen_.grdParamStnd().setColumnTitle(0, "Parameter Description");
@@ -84,11 +97,8 @@ void frmparams::Form_Load() {
     screen_.frmparams().setCaption(exchange_.editMode ? "Modify Parameter" : "Add New Parameter");
     fillSettings("", "", "");
     FillStandardUnits();
-    if (exchange_.editMode) {
-      selectVariableType(exchange_.editedText, screen_.optObjValue(), screen_.optNrValue());
-    } else {
-      screen_.cboUnit().setText("None");
-    }
+    screen_.cboUnit().setText("None");
+    if (exchange_.editMode) selectVariableType(exchange_.editedText, screen_.optObjValue(), screen_.optNrValue());
     // A new variable is a number at first, and so is an entry whose definition names no type.
     if (!screen_.optNrValue().value() && !screen_.optObjValue().value()) screen_.optNrValue().select();
   });
@@ -105,7 +115,7 @@ void frmparams::FillStandardUnits() {
     for (const std::string_view unit : text::split(units, ';')) {
       if (unit.empty()) continue;
       const std::string text = provider_.lookUpUnit(cleanedEntry(unit)).text;
-      if (!itemInComboExists(screen_.cboUnit(), text)) screen_.cboUnit().addItem(text);
+      if (!text.empty() && !itemInComboExists(screen_.cboUnit(), text)) screen_.cboUnit().addItem(text);
     }
   });
 }
@@ -117,10 +127,10 @@ bool frmparams::itemInComboExists(const platform::ComboBox& combo, std::string_v
   return false;
 }
 
-void frmparams::fillSettings(std::string_view standard, std::string_view lower, std::string_view upper) {
+void frmparams::fillSettings(std::string_view defaultValue, std::string_view lower, std::string_view upper) {
   platform::ValueListActiveX& grid = screen_.grdParamStnd();
   resetGrid(grid);
-  const std::array values{standard, lower, upper};
+  const std::array values{defaultValue, lower, upper};
   for (std::size_t i = 0; i < settings.size(); ++i) grid.InsertRow(settings[i].key, values[i], true);
 }
 
@@ -139,7 +149,7 @@ void frmparams::optNrValue_Click() {
     screen_.txtParamName().setText(number.name);
     screen_.cboUnit().setText(number.unit);
     constants_.cboUnit_LostFocus();
-    fillSettings(number.standard, number.lower, number.upper);
+    fillSettings(number.defaultValue, number.lower, number.upper);
   });
 }
 
@@ -152,7 +162,7 @@ void frmparams::optObjValue_Click() {
     for (const std::string_view name : text::split(classNames, ';')) {
       screen_.lstObject().addItem(name, !edited.empty() && edited.find(name) != std::string::npos);
     }
-    if (!edited.empty()) screen_.txtParamName().setText(variableName(edited));
+    if (!edited.empty()) screen_.txtParamName().setText(objectName(edited));
   });
 }
 
@@ -184,11 +194,11 @@ void frmparams::OKButton_Click() {
 }
 
 std::string frmparams::definition() const {
-  const std::string entered = screen_.txtParamName().text();
-  const std::string name(text::trimSpaces(entered));
+  const std::string name = screen_.txtParamName().text();
   if (screen_.optNrValue().value()) {
+    const std::string trimmed(text::trimSpaces(name));
     return numberDefinition(
-        {name, screen_.cboUnit().text(), setting(DefaultRow), setting(LowerRow), setting(UpperRow)});
+        {trimmed, screen_.cboUnit().text(), setting(DefaultRow), setting(LowerRow), setting(UpperRow)});
   }
   std::vector<std::string> types;
   const platform::SelectionList& list = screen_.lstObject();
@@ -220,15 +230,15 @@ bool frmparams::ValidatedParamsValues() {
 }
 
 bool frmparams::isDefaultWithinLimits() {
-  const std::string standard = setting(DefaultRow);
-  if (!text::isNumeric(standard)) return true;
+  const std::string defaultValue = setting(DefaultRow);
+  if (!text::isNumeric(defaultValue)) return true;
   const std::string lower = setting(LowerRow);
-  if (text::isNumeric(lower) && text::numericValue(standard) < text::numericValue(lower)) {
+  if (text::isNumeric(lower) && text::numericValue(defaultValue) < text::numericValue(lower)) {
     tell(twoParagraphs("Parameter out of range", "The default value is lower than the lower limit."));
     return false;
   }
   const std::string upper = setting(UpperRow);
-  if (text::isNumeric(upper) && text::numericValue(standard) > text::numericValue(upper)) {
+  if (text::isNumeric(upper) && text::numericValue(defaultValue) > text::numericValue(upper)) {
     tell(twoParagraphs("Parameter out of range", "The default value is higher than the upper limit."));
     return false;
   }

@@ -20,6 +20,9 @@ class frmparams {
  public:
   frmparams(VariableDialogScreen& screen, DialogExchange& exchange, modCycleHelper& catalogue,
             AtomListProvider& provider, platform::MessageBox& messages, ErrorSink& errors);
+  ~frmparams();
+  frmparams(const frmparams&) = delete;
+  frmparams& operator=(const frmparams&) = delete;
 
   /// Prepares the dialog for a new variable, or for the one being edited.
   void Form_Load();
@@ -30,10 +33,11 @@ class frmparams {
 
  private:
   void connect();
+  void disconnect();
   void setCaptions();
   void FillStandardUnits();
   static bool itemInComboExists(const platform::ComboBox& combo, std::string_view text);
-  void fillSettings(std::string_view standard, std::string_view lower, std::string_view upper);
+  void fillSettings(std::string_view defaultValue, std::string_view lower, std::string_view upper);
   std::string setting(int row) const { return screen_.grdParamStnd().cellText(1, row); }
 
   void OKButton_Click();

@@ -31,15 +31,28 @@ class Screen : public VariableDialogScreen {
   MemoryVariableDialogControls controls_;
 };
 
+// Which dialog is open, for as long as this object lives.
+class Opened {
+ public:
+  Opened(MemoryVariableDialogControls*& open, MemoryVariableDialogControls& controls)
+      : open_(open), before_(std::exchange(open, &controls)) {}
+  ~Opened() { open_ = before_; }
+  Opened(const Opened&) = delete;
+  Opened& operator=(const Opened&) = delete;
+
+ private:
+  MemoryVariableDialogControls*& open_;
+  MemoryVariableDialogControls* before_;
+};
+
 }  // namespace
 
 std::unique_ptr<VariableDialogScreen> MemoryVariableDialogs::createVariableDialog() {
   auto screen = std::make_unique<Screen>();
   MemoryVariableDialogControls& controls = screen->controls();
   controls.frmparams.setUser([this, &controls] {
-    MemoryVariableDialogControls* const before = std::exchange(open_, &controls);
+    const Opened opened(open_, controls);
     if (const User user = user_) user(controls);
-    open_ = before;
   });
   return screen;
 }

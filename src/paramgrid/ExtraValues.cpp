@@ -15,8 +15,7 @@ struct Variable {
   std::string unit;
 };
 
-// What an entry says of its variable; nothing when it has fewer than two fields.
-std::optional<Variable> parsed(std::string_view entry) {
+std::optional<Variable> parsedFields(std::string_view entry) {
   const auto fields = text::split(entry, ';');
   if (fields.size() < 2) return std::nullopt;
   const std::string_view first = fields.front();
@@ -28,19 +27,27 @@ std::optional<Variable> parsed(std::string_view entry) {
   return Variable{std::string(text::trimSpaces(name)), unit.empty() ? "None" : std::string(unit)};
 }
 
+// What an entry says of its variable; nothing when it has fewer than two fields, or its variable no name.
+std::optional<Variable> parsed(std::string_view entry) {
+  std::optional<Variable> variable = parsedFields(entry);
+  return variable && !variable->name.empty() ? variable : std::nullopt;
+}
+
 void appendName(std::string& list, std::string_view name) {
   if (!list.empty()) list += ';';
   list += name;
 }
 
-// Takes a name out of a list again: the last one of that name, since names are added at the end.
-void removeName(std::string& list, std::string_view name) {
+// Takes a name out of a list again: the last one of that name, since names are added at the end. False when the list
+// does not hold it.
+bool removeName(std::string& list, std::string_view name) {
   const auto pieces = text::split(list, ';');
   const auto last = std::find(pieces.rbegin(), pieces.rend(), name);
-  if (last == pieces.rend()) return;
+  if (last == pieces.rend()) return false;
   std::vector<std::string> kept(pieces.begin(), pieces.end());
   kept.erase(kept.begin() + (pieces.rend() - last - 1));
   list = text::join(kept, ";");
+  return true;
 }
 
 bool hasPickList(const ParamRowInfo& info, std::string_view unit) { return info.IsNumeric == 0 || ItIsObject(unit); }
@@ -74,8 +81,9 @@ void ExtraValues::Delete_Extra_Udons(std::string_view variable) {
     const std::optional<Variable> deleted = parsed(variable);
     if (!deleted) return;
     forEachFittingRow(deleted->unit, [&](int row, ParamRowInfo& info) {
-      removeName(info.ExtraValues, deleted->name);
-      if (hasPickList(info, deleted->unit)) {
+      // A variable that is not offered any more is not in the pick list either: what has its name there is an item.
+      const bool wasOffered = removeName(info.ExtraValues, deleted->name);
+      if (wasOffered && hasPickList(info, deleted->unit)) {
         removeName(info.Items, deleted->name);
         grdAtom_.setPickList(row, info.Items);
       }

@@ -10,9 +10,9 @@ namespace mavCycEd {
 using platform::XmlNode;
 
 void ObjectPickList::FillObjectItems(std::string_view classList, std::string& items, std::string& defaultItem) {
+  ValueList names;
   guarded(errors_, "FillObjectItems", [&] {
     const auto classes = text::split(classList, ';');
-    ValueList names;
     if (classList == "SYRINGE") names.emplace_back("SYR");
     for (const XmlNode& object : catalogue_.objects()) {
       const XmlNode objectClass = object.firstChild();
@@ -22,10 +22,10 @@ void ObjectPickList::FillObjectItems(std::string_view classList, std::string& it
     }
     catalogue_.configuration().appendArguments("FREE TEXT", names);
     for (const std::string_view requested : classes) catalogue_.configuration().appendArguments(requested, names);
-
-    defaultItem = names.empty() ? std::string() : names.front();
-    items = text::join(names, ";");
   });
+  // Also what was gathered before an error.
+  defaultItem = names.empty() ? std::string() : names.front();
+  items = text::join(names, ";");
 }
 
 }  // namespace mavCycEd

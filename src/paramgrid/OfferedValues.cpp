@@ -1,5 +1,6 @@
 #include "paramgrid/OfferedValues.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <string_view>
 #include <unordered_set>
@@ -45,24 +46,21 @@ void OfferedValues::GrdAtom_OnContextPopup(int x, int y) {
 void OfferedValues::GrdAtom_OnMouseMove(int x, int y) {
   guarded(errors_, "GrdAtom_OnMouseMove", [&] {
     const int row = state_.currentRow;
-    if (row == 0 || grdAtom_.cellText(0, row).empty()) {
-      grdAtom_.setToolTipText("");
-    } else if (row < grdAtom_.RowCount()) {
-      grdAtom_.setToolTipText(toolTip(x, y));
-    }
+    const bool hasRow = row != 0 && !grdAtom_.cellText(0, row).empty();
+    grdAtom_.setToolTipText(hasRow ? toolTip(x, y) : std::string());
   });
 }
 
 std::string OfferedValues::toolTip(int x, int y) const {
   const ParamRowInfo* const info = state_.rows.find(state_.currentRow);
-  const bool overRow = std::abs(y - state_.LastMouseY) < sameRowDistance && x >= valueColumnBegin;
+  const bool overRow = std::abs(std::int64_t{y} - state_.LastMouseY) < sameRowDistance && x >= valueColumnBegin;
   return overRow && info != nullptr ? text::replaceAll(info->Description, ";", " Or ") : std::string();
 }
 
 void OfferedValues::Update_Popup_Menu() {
   guarded(errors_, "Update_Popup_Menu", [this] {
     const ParamRowInfo* const info = state_.rows.find(state_.currentRow);
-    const std::string standard = info != nullptr ? textOf(info->Default) : std::string();
+    const std::string defaultValue = info != nullptr ? textOf(info->Default) : std::string();
     const bool severalClasses = info != nullptr && info->Description.find(';') != std::string::npos;
     const auto unit = parenthesised(grdAtom_.cellText(0, state_.currentRow));
 
@@ -71,8 +69,8 @@ void OfferedValues::Update_Popup_Menu() {
     Add_Extra_Keywords(values);
 
     modControlArray::deleteItems(mnuSubParam_);
-    mnuSubParam_.setItemCaption(0, std::string(defaultMark) + standard);
-    std::unordered_set<std::string_view> shown{standard, ""};
+    mnuSubParam_.setItemCaption(0, std::string(defaultMark) + defaultValue);
+    std::unordered_set<std::string_view> shown{defaultValue, ""};
     for (const std::string& value : values) {
       if (!shown.insert(value).second) continue;
       const int place = modControlArray::firstFreePlace(mnuSubParam_);

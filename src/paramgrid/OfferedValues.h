@@ -18,10 +18,13 @@ class OfferedValues {
                 modCycleHelper& catalogue, ErrorSink& errors)
       : grdAtom_(GrdAtom), mnuSubParam_(mnuSubParam), state_(state), catalogue_(catalogue), errors_(errors) {}
 
+  /// Remembers the pressed row, and where the primary button was pressed.
   void GrdAtom_OnMouseDown(platform::MouseButton button, int x, int y);
   /// Another cell became current.
   void GrdAtom_OnSelectionChange();
+  /// Shows the menu when the pointer is over the value column and the rows, and the grid has parameters.
   void GrdAtom_OnContextPopup(int x, int y);
+  /// Shows the current row's range or classes as the tool tip while the pointer is over its value.
   void GrdAtom_OnMouseMove(int x, int y);
   /// Takes the chosen entry as the value of the current grid row.
   void mnuSubParam_Click(int index);

@@ -41,14 +41,17 @@ void ParamGrid::FillDefaultParams(std::string_view atomName) {
   guarded(errors_, "FillDefaultParams", [&] {
     CleanGrdAtom();
     const XmlNode atom = catalogue_.atom(atomName);
-    state_.rows.size(atom ? atom.childNodes().length() : 0);
+    state_.rows.resize(atom ? atom.childNodes().length() : 0);
+    // The texts first: an error on the way is reported to the host, which may load another catalogue then.
+    ValueList definitions;
     if (atom) {
-      for (const XmlNode& definition : atom.selectNodes("Param")) FillParams(definition.text(), newestRow() + 1);
+      for (const XmlNode& definition : atom.selectNodes("Param")) definitions.push_back(definition.text());
     }
+    for (const std::string& definition : definitions) FillParams(definition, newestRow() + 1);
     const std::string further = provider_.furtherParameters(atomName);
-    const auto definitions = text::split(further, '|');
-    state_.rows.grow(static_cast<int>(definitions.size()));
-    for (const std::string_view definition : definitions) FillParams(definition, newestRow() + 1);
+    const auto furtherDefinitions = text::split(further, '|');
+    state_.rows.grow(static_cast<int>(furtherDefinitions.size()));
+    for (const std::string_view definition : furtherDefinitions) FillParams(definition, newestRow() + 1);
   });
 }
 

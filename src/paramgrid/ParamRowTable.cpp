@@ -6,7 +6,7 @@
 
 namespace mavCycEd {
 
-void ParamRowTable::size(int upperBound) {
+void ParamRowTable::resize(int upperBound) {
   entries_.clear();
   entries_.resize(static_cast<std::size_t>(upperBound) + 1);
 }

@@ -27,7 +27,7 @@ struct ParamRowInfo {
 class ParamRowTable {
  public:
   /// Makes all entries new, for rows up to `upperBound`.
-  void size(int upperBound);
+  void resize(int upperBound);
   /// Adds `rows` entries, keeping what is there.
   void grow(int rows);
   /// The highest row number that has an entry.

@@ -33,6 +33,14 @@ float singlePrecision(double value) {
   return static_cast<float>(value);
 }
 
+// A limit beyond single precision limits nothing.
+float limit(const Variant& value) {
+  const double number = numberOf(value);
+  const auto highest = static_cast<double>(std::numeric_limits<float>::max());
+  if (std::fabs(number) <= highest) return static_cast<float>(number);
+  return number > 0 ? std::numeric_limits<float>::infinity() : -std::numeric_limits<float>::infinity();
+}
+
 // To the nearest whole number, halves to the even neighbour.
 std::int32_t rounded(double value) {
   const double whole = std::nearbyint(value);
@@ -96,8 +104,7 @@ bool ValueValidation::Check_Range(std::string_view value, int row) {
 bool ValueValidation::isInRangeAndOnStep(std::string_view value, const ParamRowInfo& info) const {
   try {
     const float number = singlePrecision(text::numericValue(value));
-    const bool inRange =
-        number <= static_cast<float>(numberOf(info.Upper)) && number >= static_cast<float>(numberOf(info.Lower));
+    const bool inRange = number <= limit(info.Upper) && number >= limit(info.Lower);
     const double factor = info.Factor;
     return inRange && remainder(factor * number, factor * converted(info.Step)) == 0;
   } catch (const RunTimeError&) {
@@ -109,8 +116,8 @@ bool ValueValidation::ParamValueControl(std::string& message) {
   return guarded(errors_, "ParamValueControl", [&] {
     bool notFound = true;  // a row without any candidate inherits the mark of the row before
     for (int row = 1; row < grdAtom_.RowCount(); ++row) {
-      if (ParamValueStands(row, notFound)) continue;
-      message = "Parameter " + grdAtom_.cellText(keyColumn, row) + " has invalid value of value " +
+      if (valueStands(row, notFound)) continue;
+      message = "Parameter " + grdAtom_.cellText(keyColumn, row) + " has invalid value of " +
                 grdAtom_.cellText(valueColumn, row) + ".";
       return false;
     }
@@ -118,7 +125,7 @@ bool ValueValidation::ParamValueControl(std::string& message) {
   });
 }
 
-bool ValueValidation::ParamValueStands(int row, bool& notFound) {
+bool ValueValidation::valueStands(int row, bool& notFound) {
   const std::string value = grdAtom_.cellText(valueColumn, row);
   if (text::isNumeric(value) || value == "Off" || value == "On") return true;
   const auto unit = parenthesised(grdAtom_.cellText(keyColumn, row));

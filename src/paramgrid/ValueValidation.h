@@ -33,7 +33,7 @@ class ValueValidation {
 
  private:
   bool isInRangeAndOnStep(std::string_view value, const ParamRowInfo& info) const;
-  bool ParamValueStands(int row, bool& notFound);
+  bool valueStands(int row, bool& notFound);
 
   platform::ValueListActiveX& grdAtom_;
   GridState& state_;

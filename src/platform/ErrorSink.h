@@ -17,6 +17,9 @@ class ErrorSink {
   virtual void report(const RunTimeError& error, std::string_view procedure) noexcept = 0;
 };
 
+/// Reports the exception that is being handled at this moment: call it inside a catch block. Never throws.
+void reportCurrentError(ErrorSink& sink, std::string_view procedure) noexcept;
+
 /// The one error handler that every procedure runs under: runs `body`; an exception of any kind ends it, is reported
 /// under the procedure's name, and goes no further. The result is the body's, or a value-initialised one after an
 /// error.
@@ -25,7 +28,7 @@ auto guarded(ErrorSink& sink, std::string_view procedure, Body&& body) -> std::i
   try {
     return std::forward<Body>(body)();
   } catch (...) {
-    sink.report(currentError(), procedure);
+    reportCurrentError(sink, procedure);
   }
   return std::invoke_result_t<Body>();
 }

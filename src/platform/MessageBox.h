@@ -22,8 +22,8 @@ class MessageBox {
  public:
   virtual ~MessageBox() = default;
 
-  /// Shows `message` (line ends carriage return plus line feed) over `owner` and returns the pressed button, or
-  /// NoButton when the service failed.
+  /// Shows `message` (line ends carriage return plus line feed) over `owner` (0: the control's own window) and returns
+  /// the pressed button, or NoButton when the service failed.
   virtual int messageBox(WindowHandle owner, std::string_view message, std::string_view caption, int flags) = 0;
 };
 

@@ -13,8 +13,10 @@ std::int16_t fittingLine(std::uint_least32_t line) {
   return line <= highest ? static_cast<std::int16_t>(line) : std::int16_t{0};
 }
 
-RunTimeError fromStandardLibrary(ErrorNumber number, const char* description) {
-  return {static_cast<std::int32_t>(number), description, std::string(RunTimeError::ownSource), std::source_location()};
+RunTimeError foreign(ErrorNumber number, const char* what) {
+  const std::string_view description = what != nullptr ? std::string_view(what) : describe(number);
+  return {static_cast<std::int32_t>(number), std::string(description), std::string(RunTimeError::ownSource),
+          std::source_location()};
 }
 
 }  // namespace
@@ -50,19 +52,22 @@ RunTimeError currentError() {
     throw;
   } catch (const RunTimeError& error) {
     return error;
-  } catch (const std::bad_alloc& error) {
-    return fromStandardLibrary(ErrorNumber::OutOfMemory, error.what());
+  } catch (const std::bad_alloc&) {
+    return foreign(ErrorNumber::OutOfMemory, nullptr);
   } catch (const std::length_error& error) {
-    return fromStandardLibrary(ErrorNumber::OutOfMemory, error.what());
+    return foreign(ErrorNumber::OutOfMemory, error.what());
   } catch (const std::out_of_range& error) {
-    return fromStandardLibrary(ErrorNumber::SubscriptOutOfRange, error.what());
+    return foreign(ErrorNumber::SubscriptOutOfRange, error.what());
   } catch (const std::overflow_error& error) {
-    return fromStandardLibrary(ErrorNumber::Overflow, error.what());
+    return foreign(ErrorNumber::Overflow, error.what());
+  } catch (const std::invalid_argument& error) {
+    return foreign(ErrorNumber::InvalidProcedureCall, error.what());
+  } catch (const std::domain_error& error) {
+    return foreign(ErrorNumber::InvalidProcedureCall, error.what());
   } catch (const std::exception& error) {
-    return fromStandardLibrary(ErrorNumber::Unexpected, error.what());
+    return foreign(ErrorNumber::Unexpected, error.what());
   } catch (...) {
-    const std::string_view text = describe(ErrorNumber::Unexpected);
-    return fromStandardLibrary(ErrorNumber::Unexpected, text.data());
+    return foreign(ErrorNumber::Unexpected, nullptr);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace mavCycEd::platform {
@@ -66,7 +67,8 @@ class XmlNode {
   XmlNode nextSibling() const;
 
   /// The first element that a path leads to; nothing when there is none. A path is element names with "/" between
-  /// them, from this node downwards ("CYCLE/VARIABLES"). Names are compared exactly.
+  /// them, from this node downwards ("CYCLE/VARIABLES"); a "/" in front makes no difference. Names are compared
+  /// exactly.
   XmlNode selectSingleNode(std::string_view path) const;
   /// All elements that a path leads to, in document order.
   XmlNodeList selectNodes(std::string_view path) const;

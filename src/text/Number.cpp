@@ -1,5 +1,6 @@
 #include "text/Number.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -20,15 +21,22 @@ std::string_view withoutLeadingBlanks(std::string_view text) {
   return first == std::string_view::npos ? std::string_view() : text.substr(first);
 }
 
-// Whether a number without sign that does not fit a double is too large, not too small: the decimal point's place, the
-// exponent counted in, lies behind the first digit that is not 0.
+// Whether a number without sign that does not fit a double is too large, not too small: with the exponent counted in,
+// its first digit that is not 0 stands before the decimal point.
 bool isTooLarge(std::string_view number) {
-  const std::size_t e = number.find_first_of("eE");
+  const std::size_t e = std::min(number.find_first_of("eE"), number.size());
   const std::string_view mantissa = number.substr(0, e);
-  if (e != std::string_view::npos && number.substr(e + 1).starts_with('-')) return false;
-  if (e != std::string_view::npos) return true;
-  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
-  return mantissa.find_first_of("123456789") < point;
+  const auto point = static_cast<double>(std::min(mantissa.find('.'), mantissa.size()));
+  const auto firstDigit = static_cast<double>(mantissa.find_first_of("123456789"));
+  double exponent = 0;
+  if (e < number.size()) {
+    std::string_view written = number.substr(e + 1);
+    const bool negative = written.starts_with('-');
+    if (negative || written.starts_with('+')) written.remove_prefix(1);
+    std::from_chars(written.data(), written.data() + written.size(), exponent);
+    if (negative) exponent = -exponent;
+  }
+  return point + exponent > firstDigit;
 }
 
 struct Scanned {
@@ -47,8 +55,7 @@ std::optional<Scanned> scan(std::string_view text) {
   const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), value, std::chars_format::general);
   const auto numberSize = static_cast<std::size_t>(end - rest.data());
   if (error == std::errc::result_out_of_range) {
-    if (isTooLarge(rest.substr(0, numberSize))) return std::nullopt;
-    value = 0;
+    value = isTooLarge(rest.substr(0, numberSize)) ? std::numeric_limits<double>::max() : 0;
   } else if (error != std::errc()) {
     return std::nullopt;
   }

@@ -5,7 +5,7 @@
 #include <string_view>
 
 /// Numbers in texts: a decimal point ".", an optional sign, an optional exponent, whatever the process's locale.
-/// A number beyond the range of a double does not count as one; one too small for it is 0.
+/// A number beyond the range of a double has the highest value that a double can hold; one too small for it is 0.
 namespace mavCycEd::text {
 
 /// Whether the whole text, blanks at both ends aside, is one number. Blanks are spaces, tabs and line ends.
