@@ -173,7 +173,7 @@ bool CellEdit::eventFilter(QObject* watched, QEvent* event) {
       return true;
     case QEvent::KeyPress: return onKeyPress(static_cast<const QKeyEvent&>(*event));
     case QEvent::FocusOut: {
-      if (!leavesControl(static_cast<const QFocusEvent&>(*event))) return false;
+      if (!leavesControl(*editor_, static_cast<const QFocusEvent&>(*event))) return false;
       const QPointer<QObject> gone(watched);
       if (QGuiApplication::mouseButtons() != Qt::NoButton) {
         endBehindMouse();

@@ -29,7 +29,7 @@ void ComboWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 void ComboWidget::focusOutEvent(QFocusEvent* event) {
   QComboBox::focusOutEvent(event);
-  if (leavesControl(*event)) emit focusLeft();
+  if (leavesControl(*this, *event)) emit focusLeft();
 }
 
 void ComboWidget::paintEvent(QPaintEvent* event) {

@@ -80,7 +80,8 @@ std::string QtValueList::cellText(int column, int row) const {
 void QtValueList::setToolTipText(std::string_view text) {
   toolTipText_ = text;
   const QString plain = toQt(text);
-  view_->setToolTip(Qt::mightBeRichText(plain) ? plain.toHtmlEscaped() : plain);
+  // Only a text that would be taken for HTML is written as such.
+  view_->setToolTip(Qt::mightBeRichText(plain) ? QStringLiteral("<qt>%1</qt>").arg(plain.toHtmlEscaped()) : plain);
 }
 
 platform::Font QtValueList::font() const { return fontOf(*view_); }

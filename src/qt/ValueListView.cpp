@@ -19,6 +19,8 @@
 namespace mavCycEd::qt {
 namespace {
 
+constexpr int lowestRow = 19;
+
 platform::MouseButton buttonOf(const QMouseEvent& event) {
   switch (event.button()) {
     case Qt::RightButton: return platform::MouseButton::Secondary;
@@ -55,6 +57,9 @@ ValueListView::ValueListView(ValueListModel* model, QWidget* parent)
   connect(cellEdit_, &CellEdit::left, this, &ValueListView::goOn);
 }
 
+// An editor that is still open loses the focus when it is destroyed with the view; nobody is to hear of it.
+ValueListView::~ValueListView() { delete cellEdit_; }
+
 void ValueListView::setUpHeaders() {
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -62,6 +67,7 @@ void ValueListView::setUpHeaders() {
   titles.setHighlightSections(false);
   titles.setSectionsClickable(false);
   titles.setStretchLastSection(true);
+  titles.setMinimumHeight(lowestRow);
   titles.viewport()->setMouseTracking(true);
   titles.viewport()->installEventFilter(this);
   connect(&titles, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
@@ -73,9 +79,8 @@ void ValueListView::setUpHeaders() {
 
 // A row is as high as an editor in it needs.
 void ValueListView::fitRowHeight() {
-  constexpr int lowest = 19;
   constexpr int margins = 8;
-  verticalHeader()->setDefaultSectionSize(std::max(lowest, fontMetrics().height() + margins));
+  verticalHeader()->setDefaultSectionSize(std::max(lowestRow, fontMetrics().height() + margins));
 }
 
 void ValueListView::fitColumns() {

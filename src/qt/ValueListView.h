@@ -32,6 +32,9 @@ class ValueListView : public QTableView {
 
   /// The model becomes the view's own.
   ValueListView(ValueListModel* model, QWidget* parent);
+  ~ValueListView() override;
+  ValueListView(const ValueListView&) = delete;
+  ValueListView& operator=(const ValueListView&) = delete;
 
   CellEdit& cellEdit() { return *cellEdit_; }
   const CellEdit& cellEdit() const { return *cellEdit_; }
