@@ -11,7 +11,7 @@ namespace mavCycEd::memory {
 std::string StandardSystemMessage::formatMessage(std::int32_t code) const {
   std::string text = std::system_category().message(code);
   // For an unknown code the C library makes a text up, in the process's language, that ends with the code.
-  return text.ends_with(" " + std::to_string(code)) ? std::string() : text;
+  return text.ends_with(std::string(1, ' ').append(std::to_string(code))) ? std::string() : text;
 }
 
 std::int32_t StandardSystemMessage::lastErrorCode() const { return errno; }

@@ -1,0 +1,41 @@
+#include "QtEdition.h"
+
+#include <QApplication>
+#include <iostream>
+#include <memory>
+
+#include "Output.h"
+#include "QtDriver.h"
+#include "memory/MemoryServices.h"
+#include "memory/MemoryTimer.h"
+
+namespace mavCycEd::play {
+namespace {
+
+// What a platform without a window manager has to say of itself is nothing that a scenario shows.
+void writeQtMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message) {
+  const bool ofThePlatform = message.startsWith("This plugin does not support") || message.contains("XDG_RUNTIME_DIR");
+  if (!ofThePlatform) std::cerr << message.toStdString() << '\n';
+}
+
+}  // namespace
+
+int withQtDriver(int argc, char** argv, const std::string& now, const std::function<int(ControlDriver&)>& body) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(writeQtMessage);
+  const QApplication application(argc, argv);
+  HostServices services;
+  services.messageBox =
+      std::make_shared<memory::MemoryMessageBox>([](std::string_view text, std::string_view title, int flags) {
+        writeLine(std::cout, messageBoxLine(text, title, flags));
+      });
+  services.clock = std::make_shared<memory::StandingClock>(now);
+  const auto timer = std::make_shared<memory::MemoryTimer>();
+  services.gridTimer = timer;
+  QtDriver driver(
+      services, [](const CycleEditorErrorEvent& event) { writeLine(std::cout, asLine(event)); },
+      [timer] { timer->fire(); });
+  return body(driver);
+}
+
+}  // namespace mavCycEd::play
