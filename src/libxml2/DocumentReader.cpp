@@ -22,7 +22,7 @@ constexpr std::string_view whiteSpace = " \t\r\n";
 // What the parser's calls note down about a text.
 struct Findings {
   bool namespaceError = false;
-  bool carriageReturn = false;
+  bool needsNormalising = false;
 };
 
 xmlParserCtxt& parserOf(void* context) { return *static_cast<xmlParserCtxt*>(context); }
@@ -53,9 +53,13 @@ void refuseDocumentType(void* context, const xmlChar*, const xmlChar*, const xml
 
 void takeStart(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int namespaceCount,
                const xmlChar** namespaces, int attributeCount, int defaultedCount, const xmlChar** attributes) {
+  // Two pointers make up a declaration: prefix and name of a namespace.
+  for (const xmlChar** declaration = namespaces; declaration != namespaces + 2 * namespaceCount; declaration += 2) {
+    if (needsEscape(declaration[1])) findingsOf(context).needsNormalising = true;
+  }
   // Five pointers make up an attribute: name, prefix, URI, start and end of its value.
   for (const xmlChar** attribute = attributes; attribute != attributes + 5 * attributeCount; attribute += 5) {
-    if (holdsCarriageReturn(attribute[3], attribute[4] - attribute[3])) findingsOf(context).carriageReturn = true;
+    if (holdsCarriageReturn(attribute[3], attribute[4] - attribute[3])) findingsOf(context).needsNormalising = true;
   }
   dropLayout(parserOf(context), false);
   xmlSAX2StartElementNs(context, name, prefix, uri, namespaceCount, namespaces, attributeCount, defaultedCount,
@@ -68,7 +72,8 @@ void takeEnd(void* context, const xmlChar* name, const xmlChar* prefix, const xm
 }
 
 void takeText(void* context, const xmlChar* text, int size) {
-  if (holdsCarriageReturn(text, size)) findingsOf(context).carriageReturn = true;
+  if (size == 0) return;  // an empty section is no text
+  if (holdsCarriageReturn(text, size)) findingsOf(context).needsNormalising = true;
   xmlSAX2Characters(context, text, size);
 }
 
@@ -113,22 +118,25 @@ void setUp(xmlParserCtxt& parser, Findings& findings) {
   calls.serror = noteError;
 }
 
-void normaliseAttributes(const xmlNode& element) {
+bool holdsCarriageReturn(const xmlNode& text) { return std::strchr(fromXml(text.content), '\r') != nullptr; }
+
+void normaliseStart(const xmlNode& element) {
+  for (xmlNs* declaration = element.nsDef; declaration != nullptr; declaration = declaration->next) {
+    if (needsEscape(declaration->href)) escapeName(*declaration);
+  }
   for (xmlAttr* attribute = element.properties; attribute != nullptr; attribute = attribute->next) {
     const xmlNode* const value = attribute->children;
-    if (value != nullptr && std::strchr(fromXml(value->content), '\r') != nullptr) {
-      setValue(*attribute, toXmlText(fromXml(value->content)));
-    }
+    if (value != nullptr && holdsCarriageReturn(*value)) setValue(*attribute, toXmlText(fromXml(value->content)));
   }
 }
 
-// Makes line feeds of the carriage returns that were written as character references.
-void normaliseLineEnds(xmlDoc& document) {
+// Makes line feeds of the carriage returns that were written as character references, and readies namespaces.
+void normalise(xmlDoc& document) {
   xmlNode* const root = xmlDocGetRootElement(&document);
   for (xmlNode* node = root; node != nullptr; node = nextInTree(node, root)) {
     if (node->type == XML_ELEMENT_NODE) {
-      normaliseAttributes(*node);
-    } else if (node->type == XML_TEXT_NODE && std::strchr(fromXml(node->content), '\r') != nullptr) {
+      normaliseStart(*node);
+    } else if (node->type == XML_TEXT_NODE && holdsCarriageReturn(*node)) {
       Owner<xmlNode> normalised = makeText(document, toXmlText(fromXml(node->content)));
       const Owner<xmlNode> old(xmlReplaceNode(node, normalised.get()));
       node = normalised.release();
@@ -153,7 +161,7 @@ Owner<xmlDoc> readDocument(std::string_view text) {
   if (parser->errNo == XML_ERR_NO_MEMORY) throw std::bad_alloc();
   const bool stopped = parser->disableSAX != 0;
   if (document == nullptr || parser->wellFormed == 0 || stopped || findings.namespaceError) return nullptr;
-  if (findings.carriageReturn) normaliseLineEnds(*document);
+  if (findings.needsNormalising) normalise(*document);
   return document;
 }
 

@@ -66,10 +66,10 @@ xmlAttr* findAttribute(const xmlNode& element, const QualifiedName& name) {
   return attribute;
 }
 
-// The URI that the element itself declares for a prefix; the default namespace has an empty prefix.
+// The name of the namespace that the element itself declares for a prefix; the default namespace has an empty prefix.
 std::optional<std::string> declaredNamespace(const xmlNode& element, std::string_view prefix) {
   for (const xmlNs* space = element.nsDef; space != nullptr; space = space->next) {
-    if (prefixOf(space) == prefix) return space->href == nullptr ? std::string() : fromXml(space->href);
+    if (prefixOf(space) == prefix) return namespaceName(*space);
   }
   return std::nullopt;
 }

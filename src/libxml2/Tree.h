@@ -2,6 +2,7 @@
 
 #include <libxml/tree.h>
 
+#include <string>
 #include <string_view>
 
 #include "libxml2/Ownership.h"
@@ -21,5 +22,15 @@ Owner<xmlNode> makeText(xmlDoc& document, std::string_view text);
 
 /// Replaces the value of an attribute. The characters are those that a document may hold.
 void setValue(xmlAttr& attribute, std::string_view value);
+
+/// The name that a declaration gives a namespace.
+std::string namespaceName(const xmlNs& declaration);
+
+/// Whether a namespace's name, as libxml2 reads it, has to be readied for writing.
+bool needsEscape(const xmlChar* readName);
+
+/// Readies the name of a namespace for writing: libxml2 writes it as it stands, although it reads only "&" in a form
+/// that allows this.
+void escapeName(xmlNs& declaration);
 
 }  // namespace mavCycEd::libxml2
