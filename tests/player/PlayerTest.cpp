@@ -185,7 +185,7 @@ TEST_F(ScenarioTest, AScenarioThatIsNotThereIsAnError) {
 
 constexpr std::string_view catalogue =
     "<LATESTKAM><ATOMS>"
-    "<ATOM><AtomName>MIX</AtomName><Param>Volume;1;100;100;0.5;None</Param><Param>#Mode;0;0;1;7</Param></ATOM>"
+    "<ATOM><AtomName>MIX</AtomName><Param>Volume;0.5;100;100;1;None</Param><Param>#Mode;0;0;1;7</Param></ATOM>"
     "<ATOM><AtomName>WAIT</AtomName></ATOM>"
     "</ATOMS><LISTS><LIST><A>7</A><B>slow;fast</B></LIST></LISTS></LATESTKAM>";
 
@@ -247,7 +247,7 @@ TEST_F(PlayerTest, StepsOfTheHostWriteNothingOfTheirOwn) {
 }
 
 TEST_F(PlayerTest, StepsOfTheUserWriteNothingOfTheirOwn) {
-  EXPECT_THAT(playLoaded("choose cboAtom \"MIX\"\nedit GrdAtom 1 \"7.5\"\nchoose GrdAtom 2 \"fast\"\n"
+  EXPECT_THAT(playLoaded("choose cboAtom \"MIX\"\nedit GrdAtom 1 \"7\"\nchoose GrdAtom 2 \"fast\"\n"
                          "type txtCycleDescription \"x\"\nselect lstAtomSequence 1\ndblclick lstAtomSequence 0\n"
                          "select lstAtomSequence -1\nselect lstVariables 0\nclick cmdInset\ntick\n"),
               IsEmpty());
@@ -449,8 +449,8 @@ TEST_F(PlayerTest, TheStateIsShown) {
 
 TEST_F(PlayerTest, RowFactsAreShownForTheParameterRows) {
   EXPECT_THAT(playLoaded("show rows\n"),
-              ElementsAre(R"({"rows":[{"Lower":1,"Upper":100,"Value":100,"Step":0.5,"Factor":1,"Default":100,)"
-                          R"("ExtraValues":"","Description":"Range: 1 to 100 Default: 100 Step: 0.5","Items":"",)"
+              ElementsAre(R"({"rows":[{"Lower":0.5,"Upper":100,"Value":100,"Step":1,"Factor":1,"Default":100,)"
+                          R"("ExtraValues":"","Description":"Range: 0.5 to 100 Default: 100 Step: 1","Items":"",)"
                           R"("Unit":"None","IsNumeric":1},{"Lower":"","Upper":"","Value":"fast","Step":"","Factor":1,)"
                           R"("Default":"","ExtraValues":"","Description":"slow;fast","Items":"slow;fast","Unit":"",)"
                           R"("IsNumeric":0}]})"));

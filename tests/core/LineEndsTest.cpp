@@ -1,0 +1,39 @@
+#include "text/LineEnds.h"
+
+#include <gtest/gtest.h>
+
+namespace mavCycEd::text {
+namespace {
+
+TEST(LineEnds, EveryLineEndBecomesCarriageReturnAndLineFeed) {
+  EXPECT_EQ(toCrLf("a\nb"), "a\r\nb");
+  EXPECT_EQ(toCrLf("a\rb"), "a\r\nb");
+  EXPECT_EQ(toCrLf("a\r\nb"), "a\r\nb");
+  EXPECT_EQ(toCrLf("a\u2028b\u2029c"), "a\r\nb\r\nc");
+  EXPECT_EQ(toCrLf("a\uFDD0b\uFDD1c"), "a\r\nb\r\nc");
+  EXPECT_EQ(toCrLf("\n"), "\r\n");
+}
+
+TEST(LineEnds, TwoLineEndsStayTwo) {
+  EXPECT_EQ(toCrLf("\n\r"), "\r\n\r\n");
+  EXPECT_EQ(toCrLf("\r\r\n"), "\r\n\r\n");
+  EXPECT_EQ(toCrLf("\r\n\n"), "\r\n\r\n");
+  EXPECT_EQ(toCrLf("\r\n\r\n"), "\r\n\r\n");
+}
+
+TEST(LineEnds, OtherCharactersAreNoLineEnds) {
+  for (const char* text : {"", "Größe µl", "\u2027\u202A", "\uFDD2\uFDCF", "\v\f", "\u0085", "\xE2\x80", "\xEF\xB7"}) {
+    EXPECT_EQ(toCrLf(text), text);
+  }
+}
+
+TEST(LineEnds, CarriageReturnsBecomeLineFeeds) {
+  EXPECT_EQ(toLf("a\r\nb\rc\nd"), "a\nb\nc\nd");
+  EXPECT_EQ(toLf("\r\r\n"), "\n\n");
+  EXPECT_EQ(toLf("\n\r"), "\n\n");
+  EXPECT_EQ(toLf("a\u2028\u2029\uFDD0\u0085"), "a\u2028\u2029\uFDD0\u0085");
+  EXPECT_EQ(toLf(""), "");
+}
+
+}  // namespace
+}  // namespace mavCycEd::text
