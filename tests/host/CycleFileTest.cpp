@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <csignal>
 
+#include "QtPrinting.h"
+
 namespace mavCycEd::host {
 namespace {
 

@@ -4,6 +4,8 @@
 
 #include <QTemporaryDir>
 
+#include "QtPrinting.h"
+
 namespace mavCycEd::host {
 namespace {
 

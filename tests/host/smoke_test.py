@@ -124,7 +124,10 @@ class Smoke:
     def unwritable_files(self):
         cycle = [*self.instrument, "--cycle", self.samples / "cycle-standard.xml", "--quit"]
         self.run("out: folder", [*cycle, "--out", self.folder], NOT_WRITTEN, "It is a folder.")
-        self.run("out: device", [*cycle, "--out", "/dev/null"], NOT_WRITTEN, "It is a device, not a file.")
+        pipe = self.folder / "pipe"  # stands in for a device: a real one would be gone where this fails
+        os.mkfifo(pipe)
+        self.run("out: device", [*cycle, "--out", pipe], NOT_WRITTEN, "It is a device, not a file.")
+        self.expect("out: device", pipe.is_fifo(), "the pipe was replaced")
         self.run("out: no folder", [*cycle, "--out", self.folder / "none" / "x.xml"], NOT_WRITTEN, "There is no folder")
         self.run("screenshot", [*cycle, "--screenshot", self.folder], NOT_WRITTEN, "It is a folder.")
         empty = self.folder / "without-lines.xml"

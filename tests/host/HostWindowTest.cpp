@@ -1,0 +1,354 @@
+#include "HostWindow.h"
+
+#include <gtest/gtest.h>
+#include <mavCycEd/ctlCycEd.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QSettings>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <stdexcept>
+
+#include "QtPrinting.h"
+
+namespace mavCycEd::host {
+namespace {
+
+/// Answers the next message box, and keeps what it said.
+class Answer : public QObject {
+ public:
+  explicit Answer(QMessageBox::StandardButton button) {
+    connect(&timer_, &QTimer::timeout, this, [this, button] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box == nullptr || box->button(button) == nullptr) return;
+      said_ << box->text() + u' ' + box->informativeText();
+      timer_.stop();
+      box->button(button)->click();
+    });
+    timer_.start(10);
+  }
+  QString said() const { return said_.join(u'\n'); }
+  bool asked() const { return !said_.isEmpty(); }
+
+ private:
+  QTimer timer_;
+  QStringList said_;
+};
+
+class HostWindowTest : public testing::Test {
+ protected:
+  HostWindowTest() {
+    connectWatchdog();
+    window_.show();
+  }
+
+  QString at(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
+  static QString sample(const char* name) { return QStringLiteral(SAMPLES "/") + QString::fromUtf8(name); }
+  QString write(const char* name, const QByteArray& bytes) const {
+    QFile file(at(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return file.fileName();
+  }
+  static QByteArray read(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+  }
+  QString copyOfStandard() const {
+    EXPECT_TRUE(QFile::copy(sample("cycle-standard.xml"), at("c.xml")));
+    return at("c.xml");
+  }
+  void openInstrument() {
+    EXPECT_FALSE(window_.openConfiguration(sample("configuration.xml")));
+    EXPECT_FALSE(window_.openCatalogue(sample("catalogue.xml")));
+  }
+
+  template <typename Widget>
+  Widget& the(const char* name) {
+    auto* const found = window_.findChild<Widget*>(QString::fromLatin1(name));
+    if (found == nullptr) throw std::runtime_error(std::string("There is no ") + name);
+    return *found;
+  }
+  QAction& command(const char* text) {
+    for (QAction* const action : window_.findChildren<QAction*>()) {
+      if (action->text().remove(u'&') == QString::fromUtf8(text)) return *action;
+    }
+    throw std::runtime_error(std::string("There is no command ") + text);
+  }
+  ctlCycEd& editor() { return *window_.findChild<ctlCycEd*>(); }
+  void describe(const QString& text) {
+    auto& box = the<QPlainTextEdit>("txtCycleDescription");
+    box.moveCursor(QTextCursor::End);
+    QTest::keyClicks(&box, text);
+  }
+  QString description() { return the<QPlainTextEdit>("txtCycleDescription").toPlainText(); }
+  void insertLine() { QTest::mouseClick(&the<QAbstractButton>("cmdInset"), Qt::LeftButton); }
+  /// Closes with an answer to the question; an answer of NoButton expects none.
+  bool closes(QMessageBox::StandardButton button, QString* said = nullptr) {
+    Answer answer(button);
+    const bool closed = window_.close();
+    EXPECT_EQ(answer.asked(), button != QMessageBox::NoButton);
+    if (said != nullptr) *said = answer.said();
+    return closed;
+  }
+
+  /// A box that no test answers would stand there for ever.
+  void connectWatchdog() {
+    QObject::connect(&watchdog_, &QTimer::timeout, &watchdog_, [this] {
+      auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      const bool known = dialog != nullptr && dialog == unanswered_;
+      unanswered_ = dialog;
+      if (!known) return;
+      const auto* const box = qobject_cast<QMessageBox*>(dialog);
+      ADD_FAILURE() << "Nobody answered " << (box != nullptr ? box->text() : dialog->windowTitle()).toStdString();
+      dialog->reject();
+    });
+    watchdog_.start(3000);
+  }
+
+  QTimer watchdog_;
+  QPointer<QDialog> unanswered_;
+  QTemporaryDir folder_;
+  QSettings settings_{folder_.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
+  HostWindow window_{settings_};
+};
+
+TEST_F(HostWindowTest, WithoutInstrumentItSaysWhatToDo) {
+  EXPECT_TRUE(the<QWidget>("welcomeBar").isVisible());
+  EXPECT_FALSE(editor().isEnabled());
+  EXPECT_FALSE(command("Save").isEnabled());
+  EXPECT_EQ(the<QLabel>("instrument").text(), QStringLiteral("No instrument"));
+  EXPECT_FALSE(the<QWidget>("errorDock").isVisible());
+  EXPECT_TRUE(closes(QMessageBox::NoButton));
+}
+
+TEST_F(HostWindowTest, AnInstrumentEnablesTheEditor) {
+  openInstrument();
+  EXPECT_FALSE(the<QWidget>("welcomeBar").isVisible());
+  EXPECT_TRUE(editor().isEnabled());
+  EXPECT_TRUE(command("Save").isEnabled());
+  EXPECT_EQ(the<QLabel>("instrument").text(), QStringLiteral("catalogue.xml + configuration.xml"));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("New cycle[*]"));
+  EXPECT_TRUE(closes(QMessageBox::NoButton));
+}
+
+TEST_F(HostWindowTest, TheLastInstrumentIsOffered) {
+  openInstrument();
+  HostWindow next(settings_);
+  next.show();
+  auto* const button = next.findChild<QPushButton*>(QStringLiteral("lastInstrument"));
+  EXPECT_TRUE(button->isVisible());
+  EXPECT_EQ(button->text().remove(u'&'), QStringLiteral("Use last: catalogue.xml"));
+  button->click();
+  EXPECT_EQ(next.findChild<QLabel*>(QStringLiteral("instrument"))->text(),
+            QStringLiteral("catalogue.xml + configuration.xml"));
+}
+
+TEST_F(HostWindowTest, AChangeIsMarkedSavedAndUnmarked) {
+  openInstrument();
+  const QString path = copyOfStandard();
+  EXPECT_FALSE(window_.openCycle(path));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*]"));
+  describe(QStringLiteral(" Neu."));
+  EXPECT_FALSE(window_.isWindowModified());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return window_.isWindowModified(); }));
+  command("Save").trigger();
+  EXPECT_FALSE(window_.isWindowModified());
+  EXPECT_TRUE(read(path).contains(" Neu.</DESCRIPTION>"));
+  EXPECT_TRUE(closes(QMessageBox::NoButton));
+}
+
+TEST_F(HostWindowTest, ClosingAsksAboutUnsavedWork) {
+  openInstrument();
+  const QString path = copyOfStandard();
+  const QByteArray before = read(path);
+  EXPECT_FALSE(window_.openCycle(path));
+  describe(QStringLiteral("x"));
+  QString said;
+  EXPECT_FALSE(closes(QMessageBox::Cancel, &said));
+  EXPECT_EQ(said, QStringLiteral("\"c.xml\" has changes that are not saved. Save them before closing the window?"));
+  EXPECT_TRUE(window_.isVisible());
+  EXPECT_TRUE(closes(QMessageBox::Discard));
+  EXPECT_EQ(read(path), before);
+  window_.show();
+  EXPECT_TRUE(closes(QMessageBox::Save));
+  EXPECT_NE(read(path), before);
+}
+
+TEST_F(HostWindowTest, AChangeThatIsTakenBackIsNone) {
+  openInstrument();
+  EXPECT_FALSE(window_.openCycle(copyOfStandard()));
+  describe(QStringLiteral("x"));
+  QTest::keyClick(&the<QPlainTextEdit>("txtCycleDescription"), Qt::Key_Backspace);
+  EXPECT_TRUE(closes(QMessageBox::NoButton));
+}
+
+TEST_F(HostWindowTest, AFailedSavingLosesNothing) {
+  openInstrument();
+  ASSERT_TRUE(QDir(folder_.path()).mkdir(QStringLiteral("gone")));
+  const QString path = at("gone/c.xml");
+  ASSERT_TRUE(QFile::copy(sample("cycle-standard.xml"), path));
+  EXPECT_FALSE(window_.openCycle(path));
+  describe(QStringLiteral("x"));
+  ASSERT_TRUE(QDir(at("gone")).removeRecursively());
+  Answer told(QMessageBox::Ok);
+  command("Save").trigger();
+  EXPECT_TRUE(told.said().contains(QStringLiteral("There is no folder"))) << told.said().toStdString();
+  EXPECT_FALSE(closes(QMessageBox::Cancel)) << "what the editor handed back is still in no file";
+  EXPECT_TRUE(description().endsWith(u'x'));
+}
+
+TEST_F(HostWindowTest, SaveAsMakesTheFileTheCycles) {
+  openInstrument();
+  EXPECT_FALSE(window_.openCycle(copyOfStandard()));
+  QTimer::singleShot(200, &window_, [this] {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->findChild<QLineEdit*>()->setText(at("other"));
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  command("Save as...").trigger();
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("other.xml[*]"));
+  EXPECT_EQ(read(at("other.xml")), read(at("c.xml")));
+}
+
+TEST_F(HostWindowTest, AnotherInstrumentKeepsTheEditedCycle) {
+  openInstrument();
+  EXPECT_FALSE(window_.openCycle(copyOfStandard()));
+  describe(QStringLiteral(" kept"));
+  EXPECT_FALSE(window_.openCatalogue(sample("catalogue.xml")));
+  EXPECT_TRUE(description().endsWith(QStringLiteral(" kept")));
+  EXPECT_TRUE(window_.isWindowModified());
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*]"));
+  command("Show hidden atoms and objects").trigger();
+  EXPECT_TRUE(description().endsWith(QStringLiteral(" kept")));
+  EXPECT_FALSE(closes(QMessageBox::Cancel));
+}
+
+TEST_F(HostWindowTest, AnotherInstrumentLeavesAnUnchangedCycleUnchanged) {
+  openInstrument();
+  for (const char* name : {"cycle-standard.xml", "cycle-old.xml"}) {
+    EXPECT_FALSE(window_.openCycle(sample(name)));
+    EXPECT_FALSE(window_.openConfiguration(sample("configuration.xml")));
+    EXPECT_TRUE(closes(QMessageBox::NoButton)) << name;
+  }
+}
+
+TEST_F(HostWindowTest, AnUnusableFileLeavesEverythingAsItIs) {
+  openInstrument();
+  EXPECT_FALSE(window_.openCycle(copyOfStandard()));
+  const QString broken = write("broken.xml", "<CYCLE><VARIABLES>");
+  EXPECT_TRUE(window_.openCycle(broken));
+  EXPECT_TRUE(window_.openCatalogue(broken));
+  EXPECT_TRUE(window_.openConfiguration(broken));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*]"));
+  EXPECT_TRUE(description().startsWith(QStringLiteral("Standard-Messung")));
+  EXPECT_EQ(the<QLabel>("instrument").text(), QStringLiteral("catalogue.xml + configuration.xml"));
+}
+
+TEST_F(HostWindowTest, WithoutAtomLinesNothingIsWrittenAndNothingLost) {
+  openInstrument();
+  describe(QStringLiteral("An idea"));
+  const QString path = write("c.xml", "old");
+  QTimer::singleShot(200, &window_, [this, path] {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    dialog->selectFile(path);
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  Answer told(QMessageBox::Ok);
+  command("Save as...").trigger();
+  EXPECT_TRUE(told.said().contains(QStringLiteral("It has no atom lines"))) << told.said().toStdString();
+  EXPECT_EQ(read(path), "old");
+  EXPECT_EQ(description(), QStringLiteral("An idea"));
+  EXPECT_FALSE(closes(QMessageBox::Cancel));
+}
+
+TEST_F(HostWindowTest, ADescriptionWithoutAtomLinesIsAskedAbout) {
+  openInstrument();
+  describe(QStringLiteral("An idea"));
+  EXPECT_FALSE(closes(QMessageBox::Cancel));
+  Answer reload(QMessageBox::Cancel);
+  command("Show hidden atoms and objects").trigger();
+  EXPECT_TRUE(reload.asked());
+  EXPECT_FALSE(command("Show hidden atoms and objects").isChecked());
+  EXPECT_EQ(description(), QStringLiteral("An idea"));
+}
+
+TEST_F(HostWindowTest, ALineThatWasInsertedCanBeSaved) {
+  openInstrument();
+  the<QComboBox>("cboAtom").setCurrentIndex(0);
+  QTest::keyClick(&the<QComboBox>("cboAtom"), Qt::Key_Down);
+  insertLine();
+  EXPECT_TRUE(editor().CycleChanged());
+  EXPECT_FALSE(closes(QMessageBox::Cancel));
+}
+
+TEST_F(HostWindowTest, AMacroTextIsNotOverwritten) {
+  openInstrument();
+  const QString path = write("m.txt", "[PMA]\r\n//Spülen\r\nWAIT(2.5)");
+  EXPECT_FALSE(window_.openCycle(path));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("m.xml[*]"));
+  QTimer::singleShot(200, &window_, [] {
+    if (auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) dialog->reject();
+  });
+  command("Save").trigger();
+  EXPECT_FALSE(QFile::exists(at("m.xml")));
+  EXPECT_TRUE(read(path).startsWith("[PMA]"));
+}
+
+TEST_F(HostWindowTest, ACycleThatLoadsInPartIsToldAndNotOverwritten) {
+  openInstrument();
+  const QString path =
+      write("part.xml",
+            "<CYCLE><VARIABLES/><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>WAIT</ATOMNAME><PARAMETERS/></ATOM>"
+            "<ATOM/></ATOMS></ATOMSEQUENCE><VERSION>03</VERSION></CYCLE>");
+  const std::optional<Problem> problem = window_.openCycle(path);
+  ASSERT_TRUE(problem);
+  EXPECT_TRUE(problem->what.contains(QStringLiteral("in part only")));
+  EXPECT_TRUE(the<QWidget>("errorDock").isVisible());
+  EXPECT_GE(the<QTableWidget>("errorTable").rowCount(), 1);
+  QTimer::singleShot(200, &window_, [] {
+    if (auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) dialog->reject();
+  });
+  command("Save").trigger();
+  EXPECT_TRUE(read(path).contains("<ATOM/>"));
+}
+
+TEST_F(HostWindowTest, RecentCyclesAreOffered) {
+  openInstrument();
+  const QString path = copyOfStandard();
+  EXPECT_FALSE(window_.openCycle(path));
+  command("New cycle").trigger();
+  QAction& menu = command("Recent cycles");
+  emit menu.menu()->aboutToShow();
+  command("c.xml").trigger();
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*]"));
+  EXPECT_TRUE(QFile::remove(path));
+  emit menu.menu()->aboutToShow();
+  Answer told(QMessageBox::Ok);
+  command("c.xml").trigger();
+  EXPECT_TRUE(told.said().contains(QStringLiteral("There is no such file."))) << told.said().toStdString();
+  emit menu.menu()->aboutToShow();
+  EXPECT_THROW(command("c.xml"), std::runtime_error);
+}
+
+}  // namespace
+}  // namespace mavCycEd::host
