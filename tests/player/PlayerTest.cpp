@@ -194,7 +194,7 @@ class PlayerTest : public ::testing::Test {
   PlayerTest() {
     folder_.write("catalogue.xml", catalogue);
     folder_.write("cycle.xml",
-                  "<CYCLE><DESCRIPTION>//Größe</DESCRIPTION><VARIABLES><VALUE>Vol;ml;1;0;9</VALUE></VARIABLES>"
+                  "<CYCLE><DESCRIPTION>//Größe</DESCRIPTION><VARIABLES><VALUE>Vol(ml);1;0;9</VALUE></VARIABLES>"
                   "<ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>MIX</ATOMNAME><PARAMETERS>"
                   "<PARAMETER><PARAMNAME>Volume</PARAMNAME><PARAMVALUE>5</PARAMVALUE></PARAMETER>"
                   "<PARAMETER><PARAMNAME>Mode</PARAMNAME><PARAMVALUE>slow</PARAMVALUE></PARAMETER>"
@@ -394,7 +394,7 @@ TEST_F(PlayerTest, TheQuestionsOfTheHostAreWritten) {
 TEST_F(PlayerTest, ListsAreShownWithItemsAndIndex) {
   EXPECT_THAT(playLoaded("show lstAtomSequence\nshow lstVariables\nselect lstAtomSequence 1\nshow lstAtomSequence\n"),
               ElementsAre(R"({"lstAtomSequence":{"items":["01 MIX","02 WAIT"],"index":0}})",
-                          R"({"lstVariables":{"items":["Vol;ml;1;0;9"],"index":-1}})",
+                          R"({"lstVariables":{"items":["Vol(ml);1;0;9"],"index":-1}})",
                           R"({"lstAtomSequence":{"items":["01 MIX","02 WAIT"],"index":1}})"));
 }
 
