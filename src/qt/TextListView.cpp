@@ -112,6 +112,13 @@ void TextListView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (self && row >= 0) emit doubleClickedItem();
 }
 
+// The focus alone leads to no item: the first arrow key then selects the first one.
+void TextListView::focusInEvent(QFocusEvent* event) {
+  const bool none = !currentIndex().isValid();
+  QListView::focusInEvent(event);
+  if (none) selectionModel()->clearCurrentIndex();
+}
+
 void TextListView::keyPressEvent(QKeyEvent* event) {
   if (event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Delete) {
     event->accept();

@@ -14,15 +14,15 @@ namespace mavCycEd {
 struct HostServices {
   /// Answers the questions that the catalogue leaves to the instrument's suite: further atoms, units, hidden objects,
   /// further parameters. The control's own one draws on the configuration text.
-  std::shared_ptr<AtomListProvider> provider;
+  std::shared_ptr<AtomListProvider> provider = nullptr;
   /// Shows the control's messages. The control's own one shows boxes that are modal for the control's window.
-  std::shared_ptr<platform::MessageBox> messageBox;
+  std::shared_ptr<platform::MessageBox> messageBox = nullptr;
   /// The local time that is written into cycles as the time of their creation and last change. The control's own one
   /// is the system's clock.
-  std::shared_ptr<platform::Clock> clock;
+  std::shared_ptr<platform::Clock> clock = nullptr;
   /// The timer that selects the grid's first row half a second after the grid was refilled. The control's own one waits
   /// while a value is being edited.
-  std::shared_ptr<platform::Timer> gridTimer;
+  std::shared_ptr<platform::Timer> gridTimer = nullptr;
 };
 
 }  // namespace mavCycEd
