@@ -1,0 +1,142 @@
+#include <gmock/gmock.h>
+
+#include <QHeaderView>
+
+#include "TestGrid.h"
+
+namespace mavCycEd::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class GridMouse : public testing::Test, public TestGrid {
+ protected:
+  GridMouse() { logMouse = true; }
+
+  void move(const QPoint& place) {
+    QMouseEvent event(QEvent::MouseMove, place, view().viewport()->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(view().viewport(), &event);
+  }
+  // Where the next row begins; a row ends with its grid line.
+  int bottomOf(int row) { return view().rowViewportPosition(row - 1) + view().rowHeight(row - 1); }
+  void askForMenu(QContextMenuEvent::Reason reason, const QPoint& place) {
+    QContextMenuEvent event(reason, place, view().viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(view().viewport(), &event);
+  }
+};
+
+TEST_F(GridMouse, RowsAreNineteenUnitsHighWhateverTheFont) {
+  for (const int points : {8, 12, 30}) {
+    QFont font = view().font();
+    font.setPointSize(points);
+    view().setFont(font);
+    told();
+    move(cell(1, 1).topLeft());
+    move(QPoint(cell(1, 1).left(), bottomOf(1) - 1));
+    move(cell(1, 2).topLeft());
+    EXPECT_THAT(told(), ElementsAre("MouseMove 151,19", "MouseMove 151,37", "MouseMove 151,38")) << points;
+  }
+}
+
+TEST_F(GridMouse, ValueColumnBeginsAt151WhereverTheDividerStands) {
+  for (const int width : {40, 151, 230}) {
+    view().setColumnWidth(0, width);
+    told();
+    move({0, 1});
+    move({width - 1, 1});
+    move({width, 1});
+    move({width + 20, 1});
+    const std::vector<std::string> places = told();
+    ASSERT_EQ(places.size(), 4U);
+    EXPECT_EQ(places[0], "MouseMove 0,19");
+    EXPECT_LT(std::stoi(places[1].substr(10)), 151) << width;
+    EXPECT_EQ(places[2], "MouseMove 151,19") << width;
+    EXPECT_EQ(places[3], "MouseMove 171,19") << width;
+  }
+}
+
+TEST_F(GridMouse, RowsGoOnBelowTheLastOne) {
+  const QPoint below(view().columnWidth(0), bottomOf(3));
+  move(below);
+  move(below + QPoint(0, view().verticalHeader()->defaultSectionSize()));
+  EXPECT_THAT(told(), ElementsAre("MouseMove 151,76", "MouseMove 151,95"));
+}
+
+TEST_F(GridMouse, TitlesAreRowZero) {
+  QWidget* const titles = view().horizontalHeader()->viewport();
+  QTest::mousePress(titles, Qt::LeftButton, {}, {view().columnWidth(0) + 9, 0});
+  QTest::mouseRelease(titles, Qt::LeftButton, {}, {view().columnWidth(0) + 9, 0});
+  QTest::mousePress(titles, Qt::RightButton, {}, {0, titles->height() - 1});
+  EXPECT_THAT(told(), ElementsAre("MouseDown 0 160,0", "MouseDown 1 0,18"));
+  EXPECT_EQ(grid.Row(), 1);
+}
+
+TEST_F(GridMouse, PressMakesTheRowCurrentBeforeItIsTold) {
+  QTest::mousePress(view().viewport(), Qt::LeftButton, {}, QPoint(0, cell(0, 3).top()));
+  QTest::mousePress(view().viewport(), Qt::MiddleButton, {}, QPoint(0, cell(0, 2).top()));
+  QTest::mousePress(view().viewport(), Qt::LeftButton, {}, QPoint(0, cell(0, 2).top()));
+  EXPECT_THAT(told(), ElementsAre("SelectionChange 3", "MouseDown 0 0,57", "SelectionChange 2", "MouseDown 2 0,38",
+                                  "MouseDown 0 0,38"));
+}
+
+TEST_F(GridMouse, PressBelowTheRowsKeepsTheRow) {
+  grid.setRow(2);
+  QTest::mousePress(view().viewport(), Qt::LeftButton, {}, {0, bottomOf(3)});
+  EXPECT_EQ(grid.Row(), 2);
+  EXPECT_THAT(told(), ElementsAre("MouseDown 0 0,76"));
+}
+
+TEST_F(GridMouse, RightPressMakesTheRowCurrentBeforeTheMenuIsAskedFor) {
+  const QPoint place = cell(1, 3).topLeft();
+  QTest::mousePress(view().viewport(), Qt::RightButton, {}, place);
+  askForMenu(QContextMenuEvent::Mouse, place);
+  EXPECT_THAT(told(), ElementsAre("SelectionChange 3", "MouseDown 1 151,57", "ContextPopup 151,57"));
+  EXPECT_EQ(editedRow(), 0);
+  EXPECT_EQ(grid.view()->menuPlace(), view().viewport()->mapToGlobal(place));
+}
+
+TEST_F(GridMouse, MenuKeyAsksAtTheCurrentValue) {
+  grid.setRow(2);
+  askForMenu(QContextMenuEvent::Keyboard, {});
+  ASSERT_EQ(log.size(), 1U);
+  int x = 0;
+  int y = 0;
+  ASSERT_EQ(std::sscanf(log[0].c_str(), "ContextPopup %d,%d", &x, &y), 2);
+  EXPECT_GE(x, 151);
+  EXPECT_EQ(y / 19, 2);
+}
+
+TEST_F(GridMouse, RightClickOnAnOpenEditorAsksForTheMenuOfTheGrid) {
+  logMouse = false;
+  click(1, 1);
+  type("4");
+  told();
+  QContextMenuEvent event(QContextMenuEvent::Mouse, {3, 3}, editor(1)->mapToGlobal(QPoint(3, 3)));
+  QCoreApplication::sendEvent(editor(1), &event);
+  ASSERT_EQ(log.size(), 2U);
+  EXPECT_EQ(log[0], "EndOfEdit 1 1 Volume 4");
+  EXPECT_EQ(log[1].substr(0, 12), "ContextPopup");
+  EXPECT_EQ(editedRow(), 0);
+}
+
+TEST_F(GridMouse, ScrolledRowsKeepTheirUnits) {
+  for (int row = 4; row <= 60; ++row) grid.InsertRow("Key" + std::to_string(row), "", true);
+  view().scrollToBottom();
+  told();
+  move(cell(0, 60).topLeft());
+  EXPECT_THAT(told(), ElementsAre("MouseMove 0,1140"));
+}
+
+TEST_F(GridMouse, ToolTipIsTheWholeGrids) {
+  grid.setToolTipText("Range: 1 to 10");
+  EXPECT_EQ(view().toolTip(), "Range: 1 to 10");
+  EXPECT_EQ(grid.toolTipText(), "Range: 1 to 10");
+  grid.setToolTipText("<b>raw</b>");
+  EXPECT_EQ(grid.toolTipText(), "<b>raw</b>");
+  EXPECT_NE(view().toolTip(), "<b>raw</b>");
+}
+
+}  // namespace
+}  // namespace mavCycEd::test

@@ -1,0 +1,238 @@
+#include <gmock/gmock.h>
+
+#include <QAbstractItemModelTester>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "platform/RunTimeError.h"
+#include "qt/CommandGate.h"
+#include "qt/QtListBox.h"
+#include "qt/QtSelectionList.h"
+
+namespace mavCycEd::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ListBox : public testing::Test {
+ protected:
+  ListBox() {
+    list.setEvents({.Click = [this] { log.push_back("Click " + std::to_string(list.index())); },
+                    .DblClick = [this] { log.push_back("DblClick " + std::to_string(list.index())); }});
+    list.assign({"01 REPEAT", "02    ASPIRATE", "03 END"});
+    view().resize(200, 200);
+    view().show();
+    view().setFocus();
+  }
+
+  qt::TextListView& view() { return *list.widget(); }
+  QPoint placeOf(int index) { return view().visualRect(view().model()->index(index, 0)).center(); }
+  void click(int index) { QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, placeOf(index)); }
+  std::vector<std::string> told() { return std::exchange(log, {}); }
+
+  qt::CommandGate gate;
+  QWidget owner;
+  qt::QtListBox list{gate, "list", nullptr};
+  std::unique_ptr<QWidget> viewOwner{list.widget()};
+  std::vector<std::string> log;
+};
+
+TEST_F(ListBox, EveryClickIsToldAlsoOnTheSelectedItem) {
+  click(1);
+  click(1);
+  click(0);
+  EXPECT_THAT(told(), ElementsAre("Click 1", "Click 1", "Click 0"));
+}
+
+TEST_F(ListBox, ClickBelowTheItemsSelectsNone) {
+  click(1);
+  QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, {10, view().viewport()->height() - 2});
+  EXPECT_EQ(list.index(), -1);
+  EXPECT_THAT(told(), ElementsAre("Click 1", "Click -1"));
+}
+
+TEST_F(ListBox, OtherButtonsSelectNothing) {
+  QTest::mouseClick(view().viewport(), Qt::RightButton, {}, placeOf(1));
+  EXPECT_EQ(list.index(), -1);
+  EXPECT_THAT(told(), IsEmpty());
+}
+
+TEST_F(ListBox, DoubleClickIsOneClickAndOneDoubleClick) {
+  click(2);
+  QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, placeOf(2));
+  EXPECT_THAT(told(), ElementsAre("Click 2", "DblClick 2"));
+}
+
+TEST_F(ListBox, DoubleClickBelowTheItemsIsNone) {
+  const QPoint below(10, view().viewport()->height() - 2);
+  QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, below);
+  QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, below);
+  EXPECT_THAT(told(), ElementsAre("Click -1"));
+}
+
+TEST_F(ListBox, DraggingChangesNothing) {
+  QTest::mousePress(view().viewport(), Qt::LeftButton, {}, placeOf(0));
+  QMouseEvent drag(QEvent::MouseMove, placeOf(2), view().viewport()->mapToGlobal(placeOf(2)), Qt::NoButton,
+                   Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(view().viewport(), &drag);
+  QTest::mouseRelease(view().viewport(), Qt::LeftButton, {}, placeOf(2));
+  EXPECT_EQ(list.index(), 0);
+  EXPECT_THAT(told(), ElementsAre("Click 0"));
+}
+
+TEST_F(ListBox, KeysSelect) {
+  QTest::keyClick(&view(), Qt::Key_Down);
+  QTest::keyClick(&view(), Qt::Key_End);
+  QTest::keyClick(&view(), Qt::Key_Down);
+  QTest::keyClick(&view(), Qt::Key_Up);
+  EXPECT_THAT(told(), ElementsAre("Click 0", "Click 2", "Click 1"));
+  QTest::keyClick(&view(), Qt::Key_Space);
+  EXPECT_THAT(told(), ElementsAre("Click 1"));
+  QTest::keyClick(&view(), Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_THAT(told(), ElementsAre("Click -1"));
+}
+
+TEST_F(ListBox, FocusAloneSelectsNothing) {
+  EXPECT_EQ(list.index(), -1);
+  EXPECT_THAT(told(), IsEmpty());
+}
+
+TEST_F(ListBox, CodeTellsOneClickEachTime) {
+  list.setIndex(1);
+  list.setIndex(1);
+  list.setIndex(-1);
+  EXPECT_THAT(told(), ElementsAre("Click 1", "Click 1", "Click -1"));
+  EXPECT_THROW(list.setIndex(3), RunTimeError);
+  EXPECT_THROW(list.setIndex(-2), RunTimeError);
+  EXPECT_THAT(told(), IsEmpty());
+}
+
+TEST_F(ListBox, IndexesBeyondTheListAreErrors) {
+  EXPECT_THROW(list.itemText(3), RunTimeError);
+  EXPECT_THROW(list.setItemText(-1, ""), RunTimeError);
+  EXPECT_THROW(list.removeItem(3), RunTimeError);
+  EXPECT_EQ(list.itemCount(), 3);
+}
+
+TEST_F(ListBox, RemovedItemsTakeTheSelectionAlong) {
+  list.setIndex(2);
+  told();
+  list.removeItem(0);
+  EXPECT_EQ(list.index(), 1);
+  list.removeItem(1);
+  EXPECT_EQ(list.index(), -1);
+  list.removeItem(0);
+  EXPECT_EQ(list.index(), -1);
+  EXPECT_EQ(list.itemCount(), 0);
+  EXPECT_THAT(told(), IsEmpty());
+}
+
+TEST_F(ListBox, RemovalWithoutASelectionSelectsNothing) {
+  list.removeItem(0);
+  EXPECT_EQ(list.index(), -1);
+}
+
+TEST_F(ListBox, NewTextsAndItemsKeepTheSelection) {
+  list.setIndex(1);
+  list.setItemText(1, "02 DISPENSE");
+  list.addItem("04 END");
+  EXPECT_EQ(list.index(), 1);
+  EXPECT_EQ(list.itemText(1), "02 DISPENSE");
+  EXPECT_EQ(list.itemText(3), "04 END");
+}
+
+TEST_F(ListBox, AssigningIsOneResetAndTellsNothing) {
+  list.setIndex(1);
+  told();
+  const QSignalSpy resets(view().model(), &QAbstractItemModel::modelReset);
+  const QSignalSpy insertions(view().model(), &QAbstractItemModel::rowsInserted);
+  list.assign({"a", "b"});
+  EXPECT_EQ(resets.count(), 1);
+  EXPECT_EQ(insertions.count(), 0);
+  EXPECT_EQ(list.index(), -1);
+  EXPECT_THAT(told(), IsEmpty());
+}
+
+TEST_F(ListBox, HundredThousandLinesAreQuick) {
+  std::vector<std::string> lines;
+  for (int i = 1; i <= 100'000; ++i) lines.push_back(std::to_string(i) + " ASPIRATE");
+  QElapsedTimer time;
+  time.start();
+  list.assign(std::move(lines));
+  list.setIndex(99'999);
+  view().repaint();
+  EXPECT_TRUE(view().viewport()->rect().contains(placeOf(99'999)));
+  EXPECT_LT(time.elapsed(), 1000);
+  EXPECT_LT(view().findChildren<QObject*>().size(), 50);
+}
+
+TEST_F(ListBox, LongestLineCanBeScrolledTo) {
+  list.assign({"01 A", std::string("02 ") + std::string(200, 'W'), "03 B"});
+  view().scrollTo(view().model()->index(1, 0));
+  const int wanted = view().fontMetrics().horizontalAdvance(QString(200, QLatin1Char('W')));
+  EXPECT_GT(view().visualRect(view().model()->index(1, 0)).width(), wanted);
+}
+
+TEST_F(ListBox, BytesThatAreNoTextStayAsTheyAre) {
+  list.addItem("a\xFF");
+  EXPECT_EQ(list.itemText(3), "a\xFF");
+}
+
+TEST_F(ListBox, ModelKeepsItsPromises) {
+  const QAbstractItemModelTester tester(view().model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+  list.addItem("x");
+  list.setItemText(0, "y");
+  list.removeItem(1);
+  list.assign({"z"});
+  list.clear();
+}
+
+TEST_F(ListBox, HandlerMayReplaceTheItems) {
+  list.setEvents({.Click = [this] { list.assign({"only"}); }, .DblClick = {}});
+  click(2);
+  EXPECT_EQ(list.itemCount(), 1);
+  EXPECT_EQ(list.index(), -1);
+}
+
+TEST_F(ListBox, HandlerMayDestroyTheList) {
+  const QPointer<QWidget> window(new QWidget);
+  auto* const doomed = new qt::QtListBox(gate, "doomed", window);
+  doomed->assign({"a"});
+  doomed->setEvents({.Click =
+                         [&] {
+                           delete doomed;
+                           delete window.data();
+                         },
+                     .DblClick = {}});
+  window->show();
+  QTest::mousePress(doomed->widget()->viewport(), Qt::LeftButton, {}, {5, 5});
+  EXPECT_TRUE(window.isNull());
+}
+
+TEST(SelectionList, ClicksAndTheSpaceBarToggle) {
+  QWidget window;
+  qt::QtSelectionList list("list", &window);
+  list.addItem("TRAY", true);
+  list.addItem("WASTE", false);
+  list.widget()->resize(200, 200);
+  window.show();
+  QListView& view = *list.widget();
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(view.model()->index(1, 0)).center());
+  EXPECT_TRUE(list.isSelected(0));
+  EXPECT_TRUE(list.isSelected(1));
+  QTest::keyClick(&view, Qt::Key_Space);
+  EXPECT_FALSE(list.isSelected(1));
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, {10, view.viewport()->height() - 2});
+  EXPECT_TRUE(list.isSelected(0));
+  EXPECT_THROW(list.isSelected(2), RunTimeError);
+  EXPECT_THROW(list.itemText(-1), RunTimeError);
+  list.clear();
+  EXPECT_EQ(list.itemCount(), 0);
+  list.addItem("TRAY", false);
+  EXPECT_FALSE(list.isSelected(0));
+}
+
+}  // namespace
+}  // namespace mavCycEd::test

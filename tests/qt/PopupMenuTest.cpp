@@ -1,0 +1,113 @@
+#include <gmock/gmock.h>
+
+#include <QTest>
+
+#include "platform/RunTimeError.h"
+#include "qt/QtPopupMenu.h"
+
+namespace mavCycEd::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+int errorOf(const std::function<void()>& body) {
+  try {
+    body();
+  } catch (const RunTimeError& error) {
+    return error.number();
+  }
+  return 0;
+}
+
+class PopupMenu : public testing::Test {
+ protected:
+  PopupMenu() {
+    menu.setEvents({.Click = [this](int index) { chosen.push_back(index); }});
+    menu.setItemCaption(0, "Default:5");
+  }
+
+  std::vector<std::string> shown() {
+    std::vector<std::string> captions;
+    for (const QAction* const action : menu.widget()->actions()) {
+      if (action->isVisible()) captions.push_back(action->text().toStdString());
+    }
+    return captions;
+  }
+  void choose(int place) {
+    menu.widget()->setActiveAction(menu.widget()->actions().at(place));
+    QTest::keyClick(menu.widget(), Qt::Key_Return);
+  }
+
+  qt::CommandGate gate;
+  QWidget window;
+  qt::QtPopupMenu menu{gate, "menu", &window};
+  std::vector<int> chosen;
+};
+
+TEST_F(PopupMenu, ShowsItsVisibleItemsInIndexOrder) {
+  menu.createItem(5);
+  menu.setItemCaption(5, "five");
+  menu.createItem(2);
+  menu.setItemCaption(2, "two");
+  menu.createItem(3);
+  menu.setItemVisible(3, false);
+  EXPECT_THAT(shown(), ElementsAre("Default:5", "two", "five"));
+  EXPECT_EQ(menu.itemCount(), 4);
+  EXPECT_EQ(menu.lastIndex(), 5);
+  EXPECT_FALSE(menu.isItemVisible(3));
+  EXPECT_FALSE(menu.hasItem(4));
+}
+
+TEST_F(PopupMenu, ChoiceTellsTheIndex) {
+  menu.createItem(7);
+  menu.setItemCaption(7, "seven");
+  menu.popUp();
+  EXPECT_TRUE(menu.widget()->isVisible());
+  choose(1);
+  EXPECT_FALSE(menu.widget()->isVisible());
+  EXPECT_THAT(chosen, ElementsAre(7));
+}
+
+TEST_F(PopupMenu, OpensWhereItWasAskedFor) {
+  menu.setPlace([] { return QPoint(123, 45); });
+  menu.popUp();
+  EXPECT_EQ(menu.widget()->pos(), QPoint(123, 45));
+  QTest::keyClick(menu.widget(), Qt::Key_Escape);
+  EXPECT_THAT(chosen, IsEmpty());
+}
+
+TEST_F(PopupMenu, HandlerMayRemoveTheChosenItem) {
+  menu.createItem(1);
+  menu.setEvents({.Click = [this](int index) { menu.removeItem(index); }});
+  menu.popUp();
+  choose(1);
+  EXPECT_EQ(menu.itemCount(), 1);
+}
+
+TEST_F(PopupMenu, AmpersandsAreThemselves) {
+  menu.setItemCaption(0, "R&D");
+  EXPECT_EQ(menu.itemCaption(0), "R&D");
+  EXPECT_THAT(shown(), ElementsAre("R&&D"));
+}
+
+TEST_F(PopupMenu, NothingVisibleShowsNothing) {
+  menu.setItemVisible(0, false);
+  menu.popUp();
+  EXPECT_FALSE(menu.widget()->isVisible());
+}
+
+TEST_F(PopupMenu, WrongIndexesAreErrors) {
+  constexpr int subscript = static_cast<int>(ErrorNumber::SubscriptOutOfRange);
+  constexpr int invalidCall = static_cast<int>(ErrorNumber::InvalidProcedureCall);
+  EXPECT_EQ(errorOf([this] { menu.createItem(0); }), subscript);
+  EXPECT_EQ(errorOf([this] { menu.createItem(-1); }), subscript);
+  EXPECT_EQ(errorOf([this] { menu.removeItem(3); }), subscript);
+  EXPECT_EQ(errorOf([this] { menu.itemCaption(3); }), subscript);
+  EXPECT_EQ(errorOf([this] { menu.setItemCaption(3, ""); }), subscript);
+  EXPECT_EQ(errorOf([this] { menu.setItemVisible(3, true); }), subscript);
+  EXPECT_EQ(errorOf([this] { menu.removeItem(0); }), invalidCall);
+}
+
+}  // namespace
+}  // namespace mavCycEd::test

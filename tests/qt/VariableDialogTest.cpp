@@ -1,0 +1,152 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+
+#include "TestWindow.h"
+#include "qt/QtVariableDialog.h"
+
+namespace mavCycEd::test {
+namespace {
+
+using testing::ElementsAre;
+
+class VariableDialog : public testing::Test {
+ protected:
+  VariableDialog() {
+    owner.show();
+    dialog.OKButton().setCaption("OK");
+    dialog.cmdCancel().setCaption("&Cancel");
+    dialog.OKButton().setEvents({[this] {
+      log.push_back("OK");
+      dialog.frmparams().close();
+    }});
+    dialog.cmdCancel().setEvents({[this] {
+      log.push_back("Cancel");
+      dialog.frmparams().close();
+    }});
+    dialog.frmparams().setEvents({[this] { log.push_back("Close"); }});
+    platform::ValueListEvents events;
+    events.EndOfEdit = [this](int, int, const std::string&, const std::string& value) { log.push_back(value); };
+    dialog.grdParamStnd().setEvents(events);
+    dialog.grdParamStnd().InsertRow("Default Value", "", true);
+    dialog.grdParamStnd().InsertRow("Lower limit", "", true);
+  }
+
+  template <typename Widget = QWidget>
+  Widget& widget(const char* name) {
+    return *owner.findChild<Widget*>(QLatin1String(name));
+  }
+  // Shows the dialog and works in it as soon as it is there.
+  template <typename Work>
+  void show(const Work& work) {
+    QTimer::singleShot(0, [&] {
+      auto& window = widget<QDialog>("frmparams");
+      showActive(window);
+      work();
+      if (dialog.frmparams().isLoaded()) window.close();
+    });
+    dialog.frmparams().showModal();
+  }
+
+  QWidget owner;
+  qt::QtVariableDialog dialog{&owner};
+  std::vector<std::string> log;
+};
+
+TEST_F(VariableDialog, EnterPressesOkFromTheNameBox) {
+  show([this] {
+    EXPECT_NE(dialog.frmparams().hWnd(), 0U);
+    EXPECT_TRUE(widget("txtParamName").hasFocus());
+    QTest::keyClick(&widget("txtParamName"), Qt::Key_Return);
+  });
+  EXPECT_FALSE(dialog.frmparams().isLoaded());
+  EXPECT_EQ(dialog.frmparams().hWnd(), 0U);
+  EXPECT_THAT(log, ElementsAre("OK"));
+}
+
+TEST_F(VariableDialog, EnterInTheGridIsTheGrids) {
+  show([this] {
+    auto& grid = widget<QTableView>("grdParamStnd");
+    grid.setFocus();
+    QTest::keyClicks(&grid, "5");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(dialog.frmparams().isLoaded());
+    EXPECT_EQ(dialog.grdParamStnd().Row(), 2);
+  });
+  EXPECT_THAT(log, ElementsAre("5", "Close"));
+}
+
+TEST_F(VariableDialog, EscapeGivesUpAnEditFirstAndThenTheDialog) {
+  show([this] {
+    auto& grid = widget<QTableView>("grdParamStnd");
+    grid.setFocus();
+    QTest::keyClicks(&grid, "5");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog.frmparams().isLoaded());
+    EXPECT_EQ(dialog.grdParamStnd().cellText(1, 1), "");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog.frmparams().isLoaded());
+  });
+  EXPECT_THAT(log, ElementsAre("Close"));
+}
+
+TEST_F(VariableDialog, FrameOfTheWindowCloses) {
+  show([this] { widget("frmparams").close(); });
+  EXPECT_THAT(log, ElementsAre("Close"));
+}
+
+TEST_F(VariableDialog, TypedValueIsEndedBeforeOk) {
+  show([this] {
+    auto& grid = widget<QTableView>("grdParamStnd");
+    grid.setFocus();
+    QTest::keyClicks(&grid, "5");
+    QTest::mouseClick(&widget("OKButton"), Qt::LeftButton);
+  });
+  EXPECT_THAT(log, ElementsAre("5", "OK"));
+}
+
+TEST_F(VariableDialog, OptionsAreOneGroup) {
+  std::vector<std::string> clicks;
+  dialog.optNrValue().setEvents({[&] { clicks.emplace_back("number"); }});
+  dialog.optObjValue().setEvents({[&] { clicks.emplace_back("object"); }});
+  dialog.optNrValue().select();
+  dialog.optNrValue().select();
+  EXPECT_TRUE(dialog.optNrValue().value());
+  show([this] { QTest::mouseClick(&widget("optObjValue"), Qt::LeftButton); });
+  EXPECT_FALSE(dialog.optNrValue().value());
+  EXPECT_TRUE(dialog.optObjValue().value());
+  EXPECT_THAT(clicks, ElementsAre("number", "number", "object"));
+}
+
+TEST_F(VariableDialog, FramesHaveTheirOwnSettings) {
+  dialog.fraValues().setVisible(false);
+  dialog.fraValues().setEnabled(false);
+  EXPECT_FALSE(dialog.fraValues().isVisible());
+  EXPECT_FALSE(dialog.fraValues().isEnabled());
+  EXPECT_TRUE(dialog.fraObjects().isVisible());
+  EXPECT_TRUE(dialog.fraObjects().isEnabled());
+  show([this] {
+    EXPECT_FALSE(widget("grdParamStnd").isVisible());
+    EXPECT_TRUE(widget("lstObject").isVisible());
+  });
+}
+
+TEST_F(VariableDialog, TakesItsWidgetsAlong) {
+  {
+    qt::QtVariableDialog second(&owner);
+    EXPECT_EQ(owner.findChildren<QDialog*>().size(), 2);
+  }
+  EXPECT_EQ(owner.findChildren<QDialog*>().size(), 1);
+}
+
+TEST_F(VariableDialog, NamesItsControlsForPeople) {
+  for (const char* name :
+       {"txtParamName", "optNrValue", "optObjValue", "grdParamStnd", "cboUnit", "lstObject", "OKButton", "cmdCancel"}) {
+    EXPECT_FALSE(widget(name).accessibleName().isEmpty()) << name;
+  }
+}
+
+}  // namespace
+}  // namespace mavCycEd::test
