@@ -142,7 +142,7 @@ void CellEdit::drop() { close(); }
 void CellEdit::giveUp() {
   const int row = this->row();
   close();
-  model_.setCell(ValueListModel::valueColumn, row, before_);
+  if (touched_) model_.setCell(ValueListModel::valueColumn, row, before_);
 }
 
 void CellEdit::close() {

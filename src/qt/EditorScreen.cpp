@@ -11,12 +11,16 @@ namespace {
 
 QString inWords(const char* text) { return QCoreApplication::translate("mavCycEd::ctlCycEd", text); }
 
+// Frames stand in frames here: what is around their contents is kept narrow.
+constexpr QMargins frameMargins(6, 4, 6, 6);
+
 // A list with its buttons to the right of it.
 void layOutList(QGroupBox& frame, QWidget* list, std::initializer_list<QPushButton*> buttons) {
   auto* const column = new QVBoxLayout;
   for (QPushButton* const button : buttons) column->addWidget(button);
   column->addStretch();
   auto* const row = new QHBoxLayout(&frame);
+  row->setContentsMargins(frameMargins);
   row->addWidget(list);
   row->addLayout(column);
 }
@@ -48,7 +52,9 @@ ControlScreen EditorScreen::controls() {
 
 void EditorScreen::layOut() {
   layOutSelectedMacro();
-  (new QVBoxLayout(fraDescription_.widget()))->addWidget(txtCycleDescription_.widget());
+  auto* const description = new QVBoxLayout(fraDescription_.widget());
+  description->setContentsMargins(frameMargins);
+  description->addWidget(txtCycleDescription_.widget());
   layOutList(*fraAtom_.widget(), lstAtomSequence_.widget(),
              {cmdInset_.widget(), cmdReplace_.widget(), cmdDelete_.widget()});
   layOutList(*fraVariables_.widget(), lstVariables_.widget(), {cmdIns_.widget(), cmdDel_.widget()});
@@ -61,15 +67,18 @@ void EditorScreen::layOut() {
   parts->setStretchFactor(0, 1);
   parts->setStretchFactor(1, 4);
   parts->setStretchFactor(2, 2);
-  (new QVBoxLayout(fraCyclePart_.widget()))->addWidget(parts);
+  auto* const cycle = new QVBoxLayout(fraCyclePart_.widget());
+  cycle->setContentsMargins(frameMargins);
+  cycle->addWidget(parts);
 
   auto* const halves = new QSplitter(Qt::Horizontal, &control_);
   halves->setChildrenCollapsible(false);
   halves->addWidget(fraSelectedMacro_.widget());
   halves->addWidget(fraCyclePart_.widget());
-  halves->setStretchFactor(0, 1);
-  halves->setStretchFactor(1, 1);
+  halves->setStretchFactor(0, 4);
+  halves->setStretchFactor(1, 5);
   auto* const whole = new QVBoxLayout(&control_);
+  whole->setContentsMargins(frameMargins);
   whole->addWidget(halves);
 }
 
@@ -78,6 +87,7 @@ void EditorScreen::layOutSelectedMacro() {
   buttons->addStretch();
   buttons->addWidget(cmdDefault_.widget());
   auto* const column = new QVBoxLayout(fraSelectedMacro_.widget());
+  column->setContentsMargins(frameMargins);
   column->addWidget(cboAtom_.widget());
   column->addWidget(GrdAtom_.widget());
   column->addLayout(buttons);

@@ -1,5 +1,6 @@
 #include "qt/QtMessageBox.h"
 
+#include <QGridLayout>
 #include <QMessageBox>
 
 #include "qt/Text.h"
@@ -19,6 +20,16 @@ QMessageBox::Icon iconOf(int flags) {
   }
 }
 
+// A short message would make a window in which its title is cut off.
+void showWholeTitle(QMessageBox& box) {
+  auto* const layout = qobject_cast<QGridLayout*>(box.layout());
+  if (layout == nullptr) return;
+  constexpr int windowButtons = 12;  // and their margins, in characters
+  const QFontMetrics metrics = box.fontMetrics();
+  const int width = metrics.horizontalAdvance(box.windowTitle()) + windowButtons * metrics.averageCharWidth();
+  layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
+}
+
 }  // namespace
 
 int QtMessageBox::messageBox(platform::WindowHandle owner, std::string_view message, std::string_view caption,
@@ -29,6 +40,7 @@ int QtMessageBox::messageBox(platform::WindowHandle owner, std::string_view mess
   const QPointer<QMessageBox> box(
       new QMessageBox(iconOf(flags), toQt(caption), toQt(text::toLf(message)), QMessageBox::Ok, over));
   box->setTextFormat(Qt::PlainText);
+  showWholeTitle(*box);
   box->setWindowModality(over != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
   box->exec();
   delete box;

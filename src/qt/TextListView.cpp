@@ -22,7 +22,8 @@ class UniformDelegate : public QStyledItemDelegate {
     const QString text = index.data().toString();
     const int difference =
         option.fontMetrics.horizontalAdvance(toQt(model_.longest())) - option.fontMetrics.horizontalAdvance(text);
-    return {own.width() + difference, own.height()};
+    constexpr int air = 3;  // between the lines
+    return {own.width() + difference, own.height() + air};
   }
 
  private:

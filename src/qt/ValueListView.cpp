@@ -50,6 +50,7 @@ ValueListView::ValueListView(ValueListModel* model, QWidget* parent)
   setSelectionBehavior(SelectRows);
   setTabKeyNavigation(false);
   setWordWrap(false);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setCornerButtonEnabled(false);
   setMouseTracking(true);
   setAttribute(Qt::WA_InputMethodEnabled);
@@ -70,10 +71,8 @@ void ValueListView::setUpHeaders() {
   titles.setMinimumHeight(lowestRow);
   titles.viewport()->setMouseTracking(true);
   titles.viewport()->installEventFilter(this);
-  connect(&titles, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
-    const bool dragged = column == 0 && (QGuiApplication::mouseButtons() & Qt::LeftButton) != 0;
-    if (dragged && viewport()->width() > 0) keyShare_ = static_cast<double>(width) / viewport()->width();
-  });
+  connect(&titles, &QHeaderView::sectionResized, this,
+          [this](int column, int, int width) { onColumnResized(column, width); });
   fitRowHeight();
 }
 
@@ -83,9 +82,18 @@ void ValueListView::fitRowHeight() {
   verticalHeader()->setDefaultSectionSize(std::max(lowestRow, fontMetrics().height() + margins));
 }
 
+// Both columns are in view, always.
 void ValueListView::fitColumns() {
   const int width = viewport()->width();
-  setColumnWidth(0, std::clamp(static_cast<int>(width * keyShare_), width / 8, width - width / 8));
+  const int narrowest = std::min(horizontalHeader()->minimumSectionSize(), width / 2);
+  setColumnWidth(0, std::clamp(static_cast<int>(width * keyShare_), narrowest, width - narrowest));
+}
+
+void ValueListView::onColumnResized(int column, int width) {
+  const bool dragged = column == 0 && (QGuiApplication::mouseButtons() & Qt::LeftButton) != 0;
+  if (!dragged || viewport()->width() <= 0) return;
+  keyShare_ = static_cast<double>(width) / viewport()->width();
+  fitColumns();
 }
 
 int ValueListView::pageRows() const {
@@ -93,7 +101,11 @@ int ValueListView::pageRows() const {
 }
 
 QSize ValueListView::sizeHint() const {
-  return {fontMetrics().averageCharWidth() * 44, verticalHeader()->defaultSectionSize() * 10};
+  constexpr int characters = 36;
+  const int wanted = static_cast<int>(horizontalHeader()->sectionSizeHint(0) / keyShare_);
+  const int rows = std::clamp(model_.rowCount() + 2, 5, 10);
+  return {std::max(fontMetrics().averageCharWidth() * characters, wanted),
+          verticalHeader()->defaultSectionSize() * rows};
 }
 
 QSize ValueListView::minimumSizeHint() const {
@@ -339,6 +351,7 @@ void ValueListView::changeEvent(QEvent* event) {
 void ValueListView::resizeEvent(QResizeEvent* event) {
   fitColumns();
   QTableView::resizeEvent(event);
+  horizontalScrollBar()->setValue(0);
 }
 
 }  // namespace mavCycEd::qt

@@ -78,6 +78,7 @@ class ValueListView : public QTableView {
   void setUpHeaders();
   void fitRowHeight();
   void fitColumns();
+  void onColumnResized(int column, int width);
   int rowBy(int key) const;
   bool moveBy(int key);
   void goOn(int row, CellEdit::Step step);
@@ -89,7 +90,7 @@ class ValueListView : public QTableView {
   CellEdit* cellEdit_;
   GridUnits units_{*this};
   QPoint menuPlace_;
-  double keyShare_ = 0.5;  // of the key column in the width
+  double keyShare_ = 0.55;  // of the key column in the width
   bool byCode_ = false;
   bool listWanted_ = false;  // the mouse button went down on an arrow
 };
