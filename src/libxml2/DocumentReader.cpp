@@ -102,8 +102,6 @@ void noteError(void* context, Error error) {
 void setUp(xmlParserCtxt& parser, Findings& findings) {
   xmlCtxtUseOptions(&parser, XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_COMPACT);
   parser._private = &findings;
-  parser.keepBlanks = 1;
-  parser.loadsubset = XML_SKIP_IDS;
 
   xmlSAXHandler& calls = *parser.sax;
   calls.internalSubset = refuseDocumentType;
