@@ -101,7 +101,8 @@ bool ChangeWatch::ask() {
 }
 
 void ChangeWatch::glance() {
-  if (inputSinceAnswer_ && lastAnswerTook_ <= quickAnswer) ask();
+  const bool inDialog = QApplication::activeModalWidget() != nullptr;
+  if (inputSinceAnswer_ && !inDialog && lastAnswerTook_ <= quickAnswer) ask();
 }
 
 void ChangeWatch::settle(bool changed) {

@@ -22,7 +22,11 @@ QStringList EditorSession::hand(const QString& cycle) {
 
 QStringList EditorSession::load(const QString& cycle) {
   const QStringList reported = hand(cycle);
+  // A cycle that the editor would write differently than its file has it (by another program, an older format, a macro
+  // text, loaded in part) is no change of the operator's: from now on it is compared with what the editor makes of it.
+  // The watch asks, so that it knows from the beginning how long an answer takes for this cycle.
   baselineUnsaved_ = false;
+  if (changes_.ask()) editor_.RetrieveCycle();
   changes_.settle(false);
   return reported;
 }

@@ -24,9 +24,14 @@ const QString recentKey = QStringLiteral("recentCycles");
 const QString catalogueKey = QStringLiteral("instrument/catalogue");
 const QString configurationKey = QStringLiteral("instrument/configuration");
 const QString folderKey = QStringLiteral("folder/");
+const QString lastFolderKey = QStringLiteral("folder/last");
 const QString geometryKey = QStringLiteral("window/geometry");
 const QString stateKey = QStringLiteral("window/state");
 
+// Not the application's display name: Qt would put that behind the title of every box that the editor shows.
+const QString programName = QStringLiteral("Cycle editor");
+
+const QString newCycleHint = QStringLiteral("Choose an atom, fill in its parameters, and insert it into the sequence.");
 constexpr int hintTime = 5000;  // milliseconds
 
 QString fileName(const QString& path) { return QFileInfo(path).fileName(); }
@@ -44,8 +49,7 @@ Problem nothingToSave(const QString& name) {
   return {QStringLiteral("\"%1\" cannot be saved yet.").arg(name),
           QStringLiteral("It has no atom lines, and the editor hands back nothing without them, not even the "
                          "description and the variables."),
-          QStringLiteral("Insert an atom line and save again. Nothing was written, and everything that you entered is "
-                         "still here.")};
+          QStringLiteral("Insert an atom line and save again. Nothing was written.")};
 }
 
 }  // namespace
@@ -90,8 +94,9 @@ std::optional<Problem> HostWindow::reloadWith(const QString& path, DocumentKind 
     session_->setConfiguration(document.text);
   }
   (isCatalogue ? cataloguePath_ : configurationPath_) = QFileInfo(path).absoluteFilePath();
+  QStringList reported;
   if (hadInstrument) {
-    session_->reload();
+    reported = session_->reload();
   } else if (session_->hasInstrument()) {
     session_->load({});
   }
@@ -100,7 +105,12 @@ std::optional<Problem> HostWindow::reloadWith(const QString& path, DocumentKind 
     settings_.setValue(configurationKey, configurationPath_);
   }
   showState();
-  statusBar()->showMessage(QStringLiteral("Opened %1.").arg(fileName(path)), hintTime);
+  if (!reported.isEmpty()) return detach(reported);
+  if (isCatalogue && !hadInstrument) {
+    statusBar()->showMessage(newCycleHint);
+  } else {
+    statusBar()->showMessage(QStringLiteral("Opened %1.").arg(fileName(path)), hintTime);
+  }
   return std::nullopt;
 }
 
@@ -110,12 +120,10 @@ std::optional<Problem> HostWindow::openCycle(const QString& path) {
   if (document.problem) return document.problem;
   const QStringList reported = session_->load(document.text);
   recentCycles_.add(path);
+  statusBar()->clearMessage();
   if (!reported.isEmpty()) {
     takePath({}, path);
-    return Problem{QStringLiteral("\"%1\" could be opened in part only.").arg(fileName(path)),
-                   QStringLiteral("The editor said: %1").arg(reported.front()),
-                   QStringLiteral("Look through what is there. It is treated as a new cycle, so that saving does not "
-                                  "replace the file.")};
+    return detach(reported);
   }
   if (document.isMacro) {
     const QFileInfo macro(path);
@@ -127,6 +135,17 @@ std::optional<Problem> HostWindow::openCycle(const QString& path) {
     statusBar()->showMessage(QStringLiteral("Opened %1.").arg(fileName(path)), hintTime);
   }
   return std::nullopt;
+}
+
+Problem HostWindow::detach(const QStringList& reported) {
+  const Problem problem{QStringLiteral("\"%1\" could be opened in part only.").arg(cycleName()),
+                        QStringLiteral("The editor reported: %1.").arg(reported.front()),
+                        QStringLiteral("Look through what is there. It is treated as a new cycle, so that saving does "
+                                       "not replace the file.")};
+  const QString whole = path_.isEmpty() ? suggestion_ : path_;
+  const QFileInfo file(whole);
+  takePath({}, whole.isEmpty() ? whole : file.dir().filePath(file.completeBaseName() + QStringLiteral(" (part).xml")));
+  return problem;
 }
 
 void HostWindow::setIgnoreHidden(bool ignore) {
@@ -147,6 +166,7 @@ void HostWindow::newCycle() {
   if (!mayClose(QStringLiteral("starting a new cycle"))) return;
   session_->load({});
   takePath({}, {});
+  statusBar()->showMessage(newCycleHint);
 }
 
 void HostWindow::chooseCycle() {
@@ -188,8 +208,7 @@ bool HostWindow::saveAs() {
   dialog.setDefaultSuffix(QStringLiteral("xml"));
   dialog.setNameFilters({QStringLiteral("Cycles (*.xml)"), QStringLiteral("All files (*)")});
   const QString suggested = path_.isEmpty() ? suggestion_ : path_;
-  dialog.setDirectory(suggested.isEmpty() ? settings_.value(folderKey + nameOf(DocumentKind::Cycle)).toString()
-                                          : QFileInfo(suggested).path());
+  dialog.setDirectory(suggested.isEmpty() ? folderOf(DocumentKind::Cycle) : QFileInfo(suggested).path());
   dialog.selectFile(suggested.isEmpty() ? QStringLiteral("cycle.xml") : fileName(suggested));
   return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
 }
@@ -202,12 +221,13 @@ bool HostWindow::saveTo(const QString& path) {
     problem = cycle.isEmpty() ? nothingToSave(fileName(path)) : saveCycle(path, cycle);
   }
   if (problem) {
+    problem->advice += QStringLiteral(" Everything that you entered is still here.");
     tell(*problem);
     return false;
   }
   session_->saved();
   recentCycles_.add(path);
-  settings_.setValue(folderKey + nameOf(DocumentKind::Cycle), QFileInfo(path).absolutePath());
+  rememberFolder(DocumentKind::Cycle, path);
   takePath(QFileInfo(path).absoluteFilePath(), {});
   statusBar()->showMessage(QStringLiteral("Saved %1.").arg(fileName(path)), hintTime);
   return true;
@@ -238,7 +258,7 @@ bool HostWindow::mayReload() {
 }
 
 void HostWindow::tell(const Problem& problem) {
-  QMessageBox box(QMessageBox::Warning, QGuiApplication::applicationDisplayName(), problem.what, QMessageBox::Ok, this);
+  QMessageBox box(QMessageBox::Warning, programName, problem.what, QMessageBox::Ok, this);
   box.setTextFormat(Qt::PlainText);
   box.setInformativeText(problem.why + QStringLiteral("\n\n") + problem.advice);
   box.exec();
@@ -249,20 +269,30 @@ void HostWindow::tellIfAny(const std::optional<Problem>& problem) {
 }
 
 QString HostWindow::chooseFile(DocumentKind kind) {
-  const QString key = folderKey + nameOf(kind);
   const QString filter = kind == DocumentKind::Cycle
                              ? QStringLiteral("Cycles and macro texts (*.xml *.txt *.pma);;All files (*)")
                              : QStringLiteral("XML files (*.xml);;All files (*)");
-  const QString path = QFileDialog::getOpenFileName(this, QStringLiteral("Open a %1").arg(nameOf(kind)),
-                                                    settings_.value(key).toString(), filter);
-  if (!path.isEmpty()) settings_.setValue(key, QFileInfo(path).absolutePath());
+  const QString path =
+      QFileDialog::getOpenFileName(this, QStringLiteral("Open a %1").arg(nameOf(kind)), folderOf(kind), filter);
+  if (!path.isEmpty()) rememberFolder(kind, path);
   return path;
+}
+
+QString HostWindow::folderOf(DocumentKind kind) const {
+  const QVariant last = settings_.value(lastFolderKey, QDir::homePath());
+  return settings_.value(folderKey + nameOf(kind), last).toString();
+}
+
+void HostWindow::rememberFolder(DocumentKind kind, const QString& path) {
+  const QString folder = QFileInfo(path).absolutePath();
+  settings_.setValue(folderKey + nameOf(kind), folder);
+  settings_.setValue(lastFolderKey, folder);
 }
 
 void HostWindow::takePath(const QString& path, const QString& suggestion) {
   path_ = path;
   suggestion_ = suggestion;
-  setWindowTitle(cycleName() + QStringLiteral("[*]"));
+  setWindowTitle(QStringLiteral("%1[*] - %2").arg(cycleName(), programName));
 }
 
 QString HostWindow::cycleName() const {
@@ -310,7 +340,7 @@ void HostWindow::fillRecentMenu() {
 void HostWindow::showAbout() {
   QMessageBox::about(this, QStringLiteral("About"),
                      QStringLiteral("%1 %2\nA program around the cycle editor component.")
-                         .arg(QGuiApplication::applicationDisplayName(), QCoreApplication::applicationVersion()));
+                         .arg(programName, QCoreApplication::applicationVersion()));
 }
 
 void HostWindow::changeEvent(QEvent* event) {

@@ -35,11 +35,11 @@ class HostWindow : public QMainWindow {
   HostWindow(const HostWindow&) = delete;
   HostWindow& operator=(const HostWindow&) = delete;
 
-  // What the command line asks for as well. Nothing changes when a problem is returned.
+  // What the command line asks for as well. Nothing changes when a problem is returned, with one exception: a cycle
+  // that could be shown in part only is open then, without a file of its own.
   std::optional<Problem> openCatalogue(const QString& path);
   std::optional<Problem> openConfiguration(const QString& path);
-  /// Opens a cycle in place of the one that is open. A problem is returned also for a cycle that could be shown in
-  /// part only; it is open then, without a file of its own.
+  /// Opens a cycle in place of the one that is open.
   std::optional<Problem> openCycle(const QString& path);
   void setIgnoreHidden(bool ignore);
   /// The cycle as the editor hands it back; empty when it has no atom lines.
@@ -80,10 +80,14 @@ class HostWindow : public QMainWindow {
 
   // Steps of the commands.
   std::optional<Problem> reloadWith(const QString& path, DocumentKind kind);
+  /// The cycle was loaded in part: it loses its file, so that saving does not replace the whole by the part.
+  Problem detach(const QStringList& reported);
   bool mayClose(const QString& purpose);
   bool mayReload();
   bool saveTo(const QString& path);
   QString chooseFile(DocumentKind kind);
+  QString folderOf(DocumentKind kind) const;
+  void rememberFolder(DocumentKind kind, const QString& path);
   void tellIfAny(const std::optional<Problem>& problem);
   void takePath(const QString& path, const QString& suggestion);
   void showState();

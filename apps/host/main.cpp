@@ -87,7 +87,6 @@ int main(int argc, char** argv) {
   QCoreApplication::setOrganizationName(QStringLiteral("mavCycEd"));
   QCoreApplication::setApplicationName(QStringLiteral("cyced-host"));
   QCoreApplication::setApplicationVersion(QStringLiteral(MAVCYCED_VERSION));
-  QGuiApplication::setApplicationDisplayName(QStringLiteral("Cycle editor"));
 
   if (options.quit) {
     // Settings of its own: nobody else's window size, and nothing to remember.

@@ -144,7 +144,7 @@ TEST_F(HostWindowTest, AnInstrumentEnablesTheEditor) {
   EXPECT_TRUE(editor().isEnabled());
   EXPECT_TRUE(command("Save").isEnabled());
   EXPECT_EQ(the<QLabel>("instrument").text(), QStringLiteral("catalogue.xml + configuration.xml"));
-  EXPECT_EQ(window_.windowTitle(), QStringLiteral("New cycle[*]"));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("New cycle[*] - Cycle editor"));
   EXPECT_TRUE(closes(QMessageBox::NoButton));
 }
 
@@ -164,7 +164,7 @@ TEST_F(HostWindowTest, AChangeIsMarkedSavedAndUnmarked) {
   openInstrument();
   const QString path = copyOfStandard();
   EXPECT_FALSE(window_.openCycle(path));
-  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*]"));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*] - Cycle editor"));
   describe(QStringLiteral(" Neu."));
   EXPECT_FALSE(window_.isWindowModified());
   EXPECT_TRUE(QTest::qWaitFor([this] { return window_.isWindowModified(); }));
@@ -224,7 +224,7 @@ TEST_F(HostWindowTest, SaveAsMakesTheFileTheCycles) {
     QMetaObject::invokeMethod(dialog, "accept");
   });
   command("Save as...").trigger();
-  EXPECT_EQ(window_.windowTitle(), QStringLiteral("other.xml[*]"));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("other.xml[*] - Cycle editor"));
   EXPECT_EQ(read(at("other.xml")), read(at("c.xml")));
 }
 
@@ -235,7 +235,7 @@ TEST_F(HostWindowTest, AnotherInstrumentKeepsTheEditedCycle) {
   EXPECT_FALSE(window_.openCatalogue(sample("catalogue.xml")));
   EXPECT_TRUE(description().endsWith(QStringLiteral(" kept")));
   EXPECT_TRUE(window_.isWindowModified());
-  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*]"));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*] - Cycle editor"));
   command("Show hidden atoms and objects").trigger();
   EXPECT_TRUE(description().endsWith(QStringLiteral(" kept")));
   EXPECT_FALSE(closes(QMessageBox::Cancel));
@@ -250,6 +250,19 @@ TEST_F(HostWindowTest, AnotherInstrumentLeavesAnUnchangedCycleUnchanged) {
   }
 }
 
+TEST_F(HostWindowTest, ACycleInAnotherWritingIsNoChange) {
+  openInstrument();
+  const QString path = write("foreign.xml",
+                             "<CYCLE><OTHER/><VARIABLES/><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>WAIT</ATOMNAME>"
+                             "<PARAMETERS/></ATOM></ATOMS></ATOMSEQUENCE><VERSION>03</VERSION></CYCLE>");
+  EXPECT_FALSE(window_.openCycle(path));
+  QTest::mouseClick(&the<QWidget>("lstAtomSequence"), Qt::LeftButton);
+  EXPECT_TRUE(closes(QMessageBox::NoButton));
+  window_.show();
+  describe(QStringLiteral("x"));
+  EXPECT_FALSE(closes(QMessageBox::Cancel));
+}
+
 TEST_F(HostWindowTest, AnUnusableFileLeavesEverythingAsItIs) {
   openInstrument();
   EXPECT_FALSE(window_.openCycle(copyOfStandard()));
@@ -257,7 +270,7 @@ TEST_F(HostWindowTest, AnUnusableFileLeavesEverythingAsItIs) {
   EXPECT_TRUE(window_.openCycle(broken));
   EXPECT_TRUE(window_.openCatalogue(broken));
   EXPECT_TRUE(window_.openConfiguration(broken));
-  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*]"));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*] - Cycle editor"));
   EXPECT_TRUE(description().startsWith(QStringLiteral("Standard-Messung")));
   EXPECT_EQ(the<QLabel>("instrument").text(), QStringLiteral("catalogue.xml + configuration.xml"));
 }
@@ -305,12 +318,13 @@ TEST_F(HostWindowTest, AMacroTextIsNotOverwritten) {
   openInstrument();
   const QString path = write("m.txt", "[PMA]\r\n//Spülen\r\nWAIT(2.5)");
   EXPECT_FALSE(window_.openCycle(path));
-  EXPECT_EQ(window_.windowTitle(), QStringLiteral("m.xml[*]"));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("m.xml[*] - Cycle editor"));
   QTimer::singleShot(200, &window_, [] {
     if (auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) dialog->reject();
   });
   command("Save").trigger();
   EXPECT_FALSE(QFile::exists(at("m.xml")));
+  EXPECT_TRUE(closes(QMessageBox::NoButton));
   EXPECT_TRUE(read(path).startsWith("[PMA]"));
 }
 
@@ -322,7 +336,8 @@ TEST_F(HostWindowTest, ACycleThatLoadsInPartIsToldAndNotOverwritten) {
             "<ATOM/></ATOMS></ATOMSEQUENCE><VERSION>03</VERSION></CYCLE>");
   const std::optional<Problem> problem = window_.openCycle(path);
   ASSERT_TRUE(problem);
-  EXPECT_TRUE(problem->what.contains(QStringLiteral("in part only")));
+  EXPECT_EQ(problem->what, QStringLiteral("\"part.xml\" could be opened in part only."));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("part (part).xml[*] - Cycle editor"));
   EXPECT_TRUE(the<QWidget>("errorDock").isVisible());
   EXPECT_GE(the<QTableWidget>("errorTable").rowCount(), 1);
   QTimer::singleShot(200, &window_, [] {
@@ -330,6 +345,7 @@ TEST_F(HostWindowTest, ACycleThatLoadsInPartIsToldAndNotOverwritten) {
   });
   command("Save").trigger();
   EXPECT_TRUE(read(path).contains("<ATOM/>"));
+  EXPECT_TRUE(closes(QMessageBox::NoButton));
 }
 
 TEST_F(HostWindowTest, RecentCyclesAreOffered) {
@@ -340,7 +356,7 @@ TEST_F(HostWindowTest, RecentCyclesAreOffered) {
   QAction& menu = command("Recent cycles");
   emit menu.menu()->aboutToShow();
   command("c.xml").trigger();
-  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*]"));
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("c.xml[*] - Cycle editor"));
   EXPECT_TRUE(QFile::remove(path));
   emit menu.menu()->aboutToShow();
   Answer told(QMessageBox::Ok);
