@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "ControlDriver.h"
 #include "memory/HeadlessEditor.h"
@@ -115,15 +116,33 @@ class MemoryControls {
     return *control;
   }
 
-  /// The same, for a user who works with it: a StepRefused also when it is disabled, or behind the open dialog.
+  /// The same, for a user whose pointer goes there: a StepRefused also when it is disabled, or behind the open dialog.
   template <typename Control>
-  Control& use(std::string_view name) const {
+  Control& reach(std::string_view name) const {
     Control& control = see<Control>(name);
     if (dialog() != nullptr && inDialog<Control>(name) == nullptr) {
       throw StepRefused("The control " + std::string(name) + " is behind the open dialog frmparams.");
     }
     if (!control.isUsable()) throw StepRefused("The control " + std::string(name) + " is disabled.");
     return control;
+  }
+
+  /// The same, for a user who works with it: it gets the keyboard focus.
+  template <typename Control>
+  Control& use(std::string_view name) {
+    Control& control = reach<Control>(name);
+    moveFocusTo(name);
+    return control;
+  }
+
+  /// The keyboard focus goes to another control; the combo box that had it is told.
+  void moveFocusTo(std::string_view name) {
+    if (focusedCombo_ == name) return;
+    if (!focusedCombo_.empty() && dialog() != nullptr) {
+      const std::string left = std::exchange(focusedCombo_, std::string());
+      if (auto* const combo = inDialog<memory::MemoryComboBox>(left)) combo->leave();
+    }
+    focusedCombo_ = inDialog<memory::MemoryComboBox>(name) != nullptr ? std::string(name) : std::string();
   }
 
   memory::MemoryVariableDialogControls* dialog() const {
@@ -138,6 +157,7 @@ class MemoryControls {
   }
 
   memory::HeadlessEditor& headless_;
+  std::string focusedCombo_;  // the combo box of the dialog that has the keyboard focus
 };
 
 }  // namespace mavCycEd::play

@@ -22,7 +22,7 @@ void checkIndex(int index, int lowest, int count, std::string_view list) {
   }
 }
 
-MemoryValueList& useRow(const MemoryControls& controls, std::string_view grid, int row) {
+MemoryValueList& useRow(MemoryControls& controls, std::string_view grid, int row) {
   auto& control = controls.use<MemoryValueList>(grid);
   if (!control.rows().isParameterRow(row)) {
     throw StepRefused(std::string(grid) + " has no parameter row " + std::to_string(row) + ".");
@@ -55,7 +55,10 @@ void MemoryDriver::typeInCombo(std::string_view combo, const std::string& text) 
   control.type(text);
 }
 
-void MemoryDriver::leaveCombo(std::string_view combo) { controls_.use<MemoryComboBox>(combo).leave(); }
+void MemoryDriver::leaveCombo(std::string_view combo) {
+  controls_.use<MemoryComboBox>(combo);
+  controls_.moveFocusTo({});
+}
 
 void MemoryDriver::chooseInGrid(std::string_view grid, int row, const std::string& text) {
   MemoryValueList& control = useRow(controls_, grid, row);
@@ -72,7 +75,7 @@ void MemoryDriver::pressInGrid(std::string_view grid, int x, int y) {
 }
 
 void MemoryDriver::hoverOverGrid(std::string_view grid, int x, int y) {
-  controls_.use<MemoryValueList>(grid).moveMouse(x, y);
+  controls_.reach<MemoryValueList>(grid).moveMouse(x, y);
 }
 
 std::optional<std::vector<std::string>> MemoryDriver::askForMenu(std::string_view grid, int x, int y) {

@@ -1,12 +1,8 @@
 #include "QtDriver.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QGroupBox>
-#include <QHeaderView>
-#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QPlainTextEdit>
@@ -18,8 +14,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "QtGridHands.h"
+#include "QtHands.h"
 #include "platform/Timer.h"
 #include "qt/EditorAccess.h"
+#include "qt/Text.h"
 #include "qt/TextListModel.h"
 #include "qt/ValueListModel.h"
 #include "text/LineEnds.h"
@@ -27,12 +26,8 @@
 namespace mavCycEd::play {
 namespace {
 
+using qt::toQt;
 using qt::ValueListModel;
-
-constexpr int rowUnits = 19;
-constexpr int valueColumnBegin = 151;
-
-QString toQt(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
 // Whether a text comes back from a QString as it was.
 bool survivesQt(const std::string& text) { return toQt(text).toStdString() == text; }
@@ -86,106 +81,9 @@ std::vector<std::string> captionsOf(const QMenu& menu) {
   return captions;
 }
 
-// Replaces the whole text of the widget with the focus in one change.
-void pasteOverAll(QWidget& widget, const std::string& text) {
-  widget.setFocus();
-  QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
-  if (text.empty()) {
-    QTest::keyClick(&widget, Qt::Key_Delete);
-  } else {
-    QGuiApplication::clipboard()->setText(toQt(text));
-    QTest::keyClick(&widget, Qt::Key_V, Qt::ControlModifier);
-  }
-}
-
-// Types one character: what a key gives as a key, all others as an input method enters them.
-void typeCharacter(QWidget& widget, const QString& character) {
-  if (character.size() == 1 && character[0].unicode() >= 0x20 && character[0].unicode() < 0x7F) {
-    QTest::sendKeyEvent(QTest::Click, &widget, Qt::Key_unknown, character, Qt::NoModifier);
-    return;
-  }
-  QInputMethodEvent event;
-  event.setCommitString(character);
-  QCoreApplication::sendEvent(&widget, &event);
-}
-
-// The UTF-16 text, cut into characters.
-QStringList charactersOf(const QString& text) {
-  QStringList characters;
-  for (const char32_t character : text.toStdU32String()) characters.append(QString::fromUcs4(&character, 1));
-  return characters;
-}
-
-// Makes a window the one that the keyboard belongs to.
-void activate(QWidget& window) {
-  if (QApplication::activeWindow() == &window) return;
-  window.activateWindow();
-  if (QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; })) return;
-  throw StepRefused("The window of " + window.objectName().toStdString() + " does not become active.");
-}
-
-/// A grid and its rows under a user's hands.
-class GridHands {
- public:
-  explicit GridHands(QTableView& view) : view_(view) {}
-
-  int rowCount() const { return view_.model()->rowCount() + 1; }
-  int row() const {
-    const QModelIndexList selected = view_.selectionModel()->selectedRows();
-    return selected.isEmpty() ? 0 : ValueListModel::rowOf(selected.first());
-  }
-
-  // Gives the grid the focus and goes to a row, key by key.
-  void goTo(int wanted) {
-    view_.setFocus();
-    for (int at = row(); at != wanted; at = row()) {
-      QTest::keyClick(&view_, at < wanted ? Qt::Key_Down : Qt::Key_Up);
-      if (row() == at) throw StepRefused("The grid does not let its user go to row " + std::to_string(wanted) + ".");
-    }
-  }
-
-  QModelIndex valueCell(int row) const { return view_.model()->index(row - 1, ValueListModel::valueColumn); }
-  QWidget* editor(int row) const { return view_.indexWidget(valueCell(row)); }
-
-  // The widget under a position in the grid's own units, and the position in its pixels.
-  std::pair<QWidget*, QPoint> at(int x, int y) const {
-    if (y < rowUnits) {
-      QHeaderView& titles = *view_.horizontalHeader();
-      return {titles.viewport(), {pixelX(x), pixels(y, titles.height(), rowUnits)}};
-    }
-    const int row = y / rowUnits;
-    const int height = view_.verticalHeader()->defaultSectionSize();
-    if (row >= rowCount()) {
-      const int below = y - rowUnits * rowCount();
-      const int bottom = rowCount() == 1 ? 0 : view_.rowViewportPosition(rowCount() - 2) + height;
-      return {view_.viewport(), {pixelX(x), bottom + pixels(below, height, rowUnits)}};
-    }
-    view_.scrollTo(valueCell(row));
-    return {view_.viewport(), {pixelX(x), view_.rowViewportPosition(row - 1) + pixels(y % rowUnits, height, rowUnits)}};
-  }
-
- private:
-  // The first pixel that belongs to a unit.
-  static int pixels(int position, int length, int units) { return (position * length + units - 1) / units; }
-  int pixelX(int x) const {
-    const int keyWidth = view_.columnWidth(ValueListModel::keyColumn);
-    return x < valueColumnBegin ? std::min(pixels(x, keyWidth, valueColumnBegin), keyWidth - 1)
-                                : keyWidth + x - valueColumnBegin;
-  }
-
-  QTableView& view_;
-};
-
 void checkRow(const GridHands& hands, std::string_view grid, int row) {
   if (row >= 1 && row < hands.rowCount()) return;
   throw StepRefused(std::string(grid) + " has no parameter row " + std::to_string(row) + ".");
-}
-
-// Picks an item in a combo box's open list.
-void pickInList(QComboBox& combo, int index) {
-  combo.showPopup();
-  combo.view()->setCurrentIndex(combo.model()->index(index, 0));
-  QTest::keyClick(combo.view(), Qt::Key_Return);
 }
 
 CycleEditorErrorEvent asEvent(int number, const QString& error, const QString& application, const QString& module,

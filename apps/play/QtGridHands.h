@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QHeaderView>
+#include <QTableView>
+#include <QTest>
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "ControlDriver.h"
+#include "qt/ValueListModel.h"
+
+namespace mavCycEd::play {
+
+/// A grid of the Qt edition under a user's hands.
+class GridHands {
+ public:
+  explicit GridHands(QTableView& view) : view_(view) {}
+
+  /// The number of rows, the title row included.
+  int rowCount() const { return view_.model()->rowCount() + 1; }
+  /// The row that is shown as the current one, 0 for none.
+  int row() const {
+    const QModelIndexList selected = view_.selectionModel()->selectedRows();
+    return selected.isEmpty() ? 0 : qt::ValueListModel::rowOf(selected.first());
+  }
+
+  /// Gives the grid the focus and goes to a row, key by key.
+  void goTo(int wanted) {
+    view_.setFocus();
+    for (int at = row(); at != wanted; at = row()) {
+      QTest::keyClick(&view_, at < wanted ? Qt::Key_Down : Qt::Key_Up);
+      if (row() == at) throw StepRefused("The grid does not let its user go to row " + std::to_string(wanted) + ".");
+    }
+  }
+
+  QModelIndex valueCell(int row) const { return view_.model()->index(row - 1, qt::ValueListModel::valueColumn); }
+  /// The open editor of a row, nullptr when there is none.
+  QWidget* editor(int row) const { return view_.indexWidget(valueCell(row)); }
+
+  /// The widget under a position in the grid's own units, and the position in its pixels.
+  std::pair<QWidget*, QPoint> at(int x, int y) const {
+    if (y < rowUnits) {
+      QHeaderView& titles = *view_.horizontalHeader();
+      return {titles.viewport(), {pixelX(x), pixels(y, titles.height(), rowUnits)}};
+    }
+    const int row = y / rowUnits;
+    const int height = view_.verticalHeader()->defaultSectionSize();
+    if (row >= rowCount()) {
+      const int below = y - rowUnits * rowCount();
+      const int bottom = rowCount() == 1 ? 0 : view_.rowViewportPosition(rowCount() - 2) + height;
+      return {view_.viewport(), {pixelX(x), bottom + pixels(below, height, rowUnits)}};
+    }
+    view_.scrollTo(valueCell(row));
+    return {view_.viewport(), {pixelX(x), view_.rowViewportPosition(row - 1) + pixels(y % rowUnits, height, rowUnits)}};
+  }
+
+ private:
+  static constexpr int rowUnits = 19;
+  static constexpr int valueColumnBegin = 151;
+
+  // The first pixel that belongs to a unit.
+  static int pixels(int position, int length, int units) { return (position * length + units - 1) / units; }
+  int pixelX(int x) const {
+    const int keyWidth = view_.columnWidth(qt::ValueListModel::keyColumn);
+    return x < valueColumnBegin ? std::min(pixels(x, keyWidth, valueColumnBegin), keyWidth - 1)
+                                : keyWidth + x - valueColumnBegin;
+  }
+
+  QTableView& view_;
+};
+
+}  // namespace mavCycEd::play
