@@ -23,8 +23,9 @@ int main(int argc, char** argv) {
   }
 
   mavCycEd::ctlCycEd editor;
-  QObject::connect(&editor, &mavCycEd::ctlCycEd::CycleEditorError,
-                   [&errors](int lngError, const QString& strError) { errors << lngError << ": " << strError << '\n'; });
+  QObject::connect(&editor, &mavCycEd::ctlCycEd::CycleEditorError, [&errors](int lngError, const QString& strError) {
+    errors << lngError << ": " << strError << '\n';
+  });
   editor.SetConfigXML(contentOf(files[0]));
   editor.SetXMLStrings(contentOf(files[1]), contentOf(files[2]));
   editor.resize(900, 600);
