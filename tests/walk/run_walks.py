@@ -21,9 +21,8 @@ def play(player, edition, scenario):
 
 def broken_rule(output):
     """The first rule of a walk that its output breaks, as a text; empty when it breaks none."""
-    names = []
-    rows = 0
-    items = []
+    names = None  # what the sequence list showed last, until the atom lines are shown
+    grid = None  # what the grid showed last, until its row table is shown
     for line in output.splitlines():
         shown = json.loads(line)
         if "CycleEditorError" in shown:
@@ -33,21 +32,25 @@ def broken_rule(output):
             numbers = [int(item.split(" ")[0]) for item in shown["lstAtomSequence"]["items"]]
             if numbers != list(range(1, len(numbers) + 1)):
                 return f"the lines are not numbered in order: {line}"
-        if "atoms" in shown and names != [atom["AtomName"].lstrip(" ") for atom in shown["atoms"]]:
-            return f"the list does not show the atom lines: {line}"
-        if "GrdAtom" in shown:
+        elif "atoms" in shown and names is not None:
+            if names != [atom["AtomName"].lstrip(" ") for atom in shown["atoms"]]:
+                return f"the list does not show the atom lines: {line}"
+            names = None
+        elif "GrdAtom" in shown:
             grid = shown["GrdAtom"]
-            rows = len(grid["rows"])
-            if not (1 <= grid["row"] <= rows if rows else grid["row"] == 0):
+            count = len(grid["rows"])
+            if not (1 <= grid["row"] <= count if count else grid["row"] == 0):
                 return f"the current row is no row: {line}"
-            items = [";".join(row["items"]) for row in grid["rows"]]
-        if "rows" in shown:
+        elif "rows" in shown and grid is not None:
             table = shown["rows"]
-            if len(table) != rows:
-                return f"the row table has {len(table)} entries for {rows} rows"
-            if [row["Items"] for row in table if not row["IsNumeric"]] != \
-                    [text for text, row in zip(items, table) if not row["IsNumeric"]]:
+            if len(table) != len(grid["rows"]):
+                return f"the row table has {len(table)} entries for {len(grid['rows'])} rows"
+            if any(not row["IsNumeric"] and row["Items"] != ";".join(seen["items"])
+                   for row, seen in zip(table, grid["rows"])):
                 return f"the pick lists are not those of the row table: {line}"
+            grid = None
+        else:
+            names = grid = None
     return ""
 
 
