@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # The set-up that run.sh, test.sh and scripts/lint.sh share: missing packages, configuration, build. Sourced, not run.
-# Build folders follow CMakePresets.json: build/ for the preset release, build-NAME/ for each other preset.
+# Build folders follow CMakePresets.json: build/ for the preset release, build/windows/ for windows, build-NAME/ for each
+# other preset.
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 
@@ -64,7 +65,11 @@ Is the network there, and is this Debian 12 (bookworm) with its section main?"
 
 # The build folder of a preset.
 folder_of() {
-  if [[ "$1" == release ]]; then printf '%s' "$root/build"; else printf '%s' "$root/build-$1"; fi
+  case "$1" in
+    release) printf '%s' "$root/build" ;;
+    windows) printf '%s' "$root/build/windows" ;;
+    *) printf '%s' "$root/build-$1" ;;
+  esac
 }
 
 # configure PRESET: only when it was never done, the presets changed since, or the tree was moved. Otherwise the build

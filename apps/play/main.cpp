@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "Console.h"
 #include "MemoryDriver.h"
 #include "Output.h"
 #include "Player.h"
@@ -47,6 +48,7 @@ int main(int argc, char** argv) {
   CLI::App app(
       "Plays a scenario against the cycle editor and writes what it shows, one JSON object per line.\n"
       "Exit code: 0 all steps ran, 1 the scenario cannot be read, 2 a step was refused.");
+  app.allow_windows_style_options(false);  // a file may begin with a slash
   std::string edition = "memory";
   std::string file;
   std::string now = "2024-03-09T14:05:00";
@@ -57,6 +59,7 @@ int main(int argc, char** argv) {
       ->capture_default_str();
   app.add_option("FILE", file, "The scenario")->required();
   CLI11_PARSE(app, argc, argv);
+  play::writeBytesAsTheyAre();
   try {
 #ifdef MAVCYCED_WITH_QT
     if (edition == "qt") {

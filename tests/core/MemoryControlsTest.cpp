@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,6 @@ namespace {
 using test::errorNumberOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 class MemoryListBoxTest : public ::testing::Test {
  protected:
@@ -373,8 +373,9 @@ TEST(MemoryServices, AnswerForAPlatform) {
   EXPECT_EQ(MemoryMessageBox().messageBox(0, "", "", 0), platform::OkButton);
   EXPECT_EQ(Utf8CodePage().fromUtf8("Größe \xFF"), "Größe \xFF");
   EXPECT_EQ(StandingClock("2024-03-09T14:05:00").localTimestamp(), "2024-03-09T14:05:00");
-  EXPECT_THAT(SystemClock().localTimestamp(),
-              MatchesRegex("[0-9]{4}-[01][0-9]-[0-3][0-9]T[0-2][0-9]:[0-5][0-9]:[0-6][0-9]"));
+  // The expressions of the matchers are not the same on every system.
+  const std::regex timestamp("[0-9]{4}-[01][0-9]-[0-3][0-9]T[0-2][0-9]:[0-5][0-9]:[0-6][0-9]");
+  EXPECT_TRUE(std::regex_match(SystemClock().localTimestamp(), timestamp)) << SystemClock().localTimestamp();
 }
 
 }  // namespace

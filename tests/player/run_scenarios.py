@@ -27,7 +27,7 @@ def failure_of(scenario, player, edition):
     expected = scenario.with_suffix(".expected").read_text(encoding="utf-8").splitlines()
     exit_file = scenario.with_suffix(".exit")
     expected_exit = int(exit_file.read_text()) if exit_file.exists() else 0
-    run = subprocess.run([player, "--edition", edition, str(scenario)], capture_output=True, timeout=120,
+    run = subprocess.run([*player, "--edition", edition, str(scenario)], capture_output=True, timeout=120,
                          env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
     shown = run.stdout.decode("utf-8").splitlines()
     shown = [comparable(line, expected[i] if i < len(expected) else None) for i, line in enumerate(shown)]
@@ -43,15 +43,17 @@ def failure_of(scenario, player, edition):
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--player", required=True, help="the cyced-play program")
+    parser.add_argument("--launcher", help="a program that runs the player")
     parser.add_argument("--edition", required=True)
     parser.add_argument("folder", type=pathlib.Path)
     parser.add_argument("--only", default="*", help="a pattern of scenario names")
     arguments = parser.parse_args()
 
+    player = [arguments.launcher, arguments.player] if arguments.launcher else [arguments.player]
     scenarios = sorted(arguments.folder.glob(arguments.only + ".scenario"))
     failures = 0
     for scenario in scenarios:
-        failure = failure_of(scenario, arguments.player, arguments.edition)
+        failure = failure_of(scenario, player, arguments.edition)
         if failure:
             failures += 1
             print(f"FAILED {scenario.stem}\n{failure}\n")

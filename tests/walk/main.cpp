@@ -7,6 +7,7 @@
 #include <sstream>
 #include <string>
 
+#include "Console.h"
 #include "MemoryDriver.h"
 #include "Output.h"
 #include "Player.h"
@@ -36,6 +37,7 @@ void writeScenario(const std::string& file, const std::vector<std::string>& line
 
 int main(int argc, char** argv) {
   CLI::App app("Writes the steps of an operator who does anything as a scenario; shows them on the memory edition.");
+  app.allow_windows_style_options(false);  // a file may begin with a slash
   unsigned seed = 1;
   int steps = 500;
   std::string samples;
@@ -61,6 +63,7 @@ int main(int argc, char** argv) {
         driver, [&output] { return lastLineOf(output); }, samples, seed, steps);
     const bool allRan = play::Player(driver, output).play(steps_);
     writeScenario(file, steps_.lines());
+    play::writeBytesAsTheyAre();
     std::cout << output.view();
     return allRan ? 0 : 1;
   } catch (const std::exception& error) {

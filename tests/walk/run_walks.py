@@ -15,7 +15,7 @@ import sys
 
 
 def play(player, edition, scenario):
-    run = subprocess.run([player, "--edition", edition, str(scenario)], capture_output=True, timeout=600)
+    run = subprocess.run([*player, "--edition", edition, str(scenario)], capture_output=True, timeout=600)
     return run.returncode, run.stdout.decode("utf-8")
 
 
@@ -114,6 +114,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--walker", required=True, help="the cyced-walk program")
     parser.add_argument("--player", required=True, help="the cyced-play program")
+    parser.add_argument("--launcher", help="a program that runs the other two")
     parser.add_argument("--editions", required=True, nargs="+")
     parser.add_argument("--samples", required=True, type=pathlib.Path)
     parser.add_argument("--work", required=True, type=pathlib.Path, help="the folder for the scenarios")
@@ -122,20 +123,22 @@ def main():
     parser.add_argument("--steps", type=int, default=500)
     arguments = parser.parse_args()
 
+    launcher = [arguments.launcher] if arguments.launcher else []
+    player = [*launcher, arguments.player]
     arguments.work.mkdir(parents=True, exist_ok=True)
     for name in ("catalogue.xml", "configuration.xml", "cycle-standard.xml", "cycle-old.xml"):
         (arguments.work / name).write_bytes((arguments.samples / name).read_bytes())
     for seed in range(arguments.first_seed, arguments.first_seed + arguments.seeds):
         scenario = arguments.work / f"walk-{seed}.scenario"
-        walk = subprocess.run([arguments.walker, "--seed", str(seed), "--steps", str(arguments.steps), "--samples",
+        walk = subprocess.run([*launcher, arguments.walker, "--seed", str(seed), "--steps", str(arguments.steps), "--samples",
                                str(arguments.samples), str(scenario)], capture_output=True, timeout=600)
         problem = f"the walker ended with {walk.returncode}: {walk.stderr.decode()}{walk.stdout.decode()[-400:]}" \
-            if walk.returncode else failure_of(arguments.player, arguments.editions, scenario)
+            if walk.returncode else failure_of(player, arguments.editions, scenario)
         if problem:
             print(f"The walk of seed {seed} failed: {problem}")
             if not walk.returncode:
                 short = scenario.with_name(f"walk-{seed}-short.scenario")
-                short.write_text("\n".join(shrunk(arguments.player, arguments.editions, scenario)) + "\n",
+                short.write_text("\n".join(shrunk(player, arguments.editions, scenario)) + "\n",
                                  encoding="utf-8")
                 print(f"Shrunk to {short}:\n{short.read_text(encoding='utf-8')}")
             return 1
