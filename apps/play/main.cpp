@@ -15,6 +15,9 @@
 #ifdef MAVCYCED_WITH_QT
 #include "QtEdition.h"
 #endif
+#ifdef MAVCYCED_WITH_WIN32
+#include "Win32Edition.h"
+#endif
 
 namespace {
 
@@ -52,8 +55,8 @@ int main(int argc, char** argv) {
   std::string edition = "memory";
   std::string file;
   std::string now = "2024-03-09T14:05:00";
-  app.add_option("--edition", edition, "The edition of the control: memory or qt")
-      ->check(CLI::IsMember({"memory", "qt"}))
+  app.add_option("--edition", edition, "The edition of the control: memory, qt or win32")
+      ->check(CLI::IsMember({"memory", "qt", "win32"}))
       ->capture_default_str();
   app.add_option("--now", now, "The local time at which the scenario's clock stands, as yyyy-mm-ddThh:mm:ss")
       ->capture_default_str();
@@ -66,8 +69,13 @@ int main(int argc, char** argv) {
       return play::withQtDriver(argc, argv, now, [&file](play::ControlDriver& driver) { return playOn(driver, file); });
     }
 #endif
+#ifdef MAVCYCED_WITH_WIN32
+    if (edition == "win32") {
+      return play::withWin32Driver(now, [&file](play::ControlDriver& driver) { return playOn(driver, file); });
+    }
+#endif
     if (edition != "memory") {
-      std::cerr << "This cyced-play was built without the Qt edition.\n";
+      std::cerr << "This cyced-play was built without the " << edition << " edition.\n";
       return unreadableScenario;
     }
     return playInMemory(file, now);

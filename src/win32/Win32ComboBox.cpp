@@ -1,0 +1,165 @@
+#include "win32/Win32ComboBox.h"
+
+#include <algorithm>
+
+#include "platform/RunTimeError.h"
+#include "win32/Dpi.h"
+#include "win32/Text.h"
+
+namespace mavCycEd::win32 {
+namespace {
+
+DWORD styleOf(Win32ComboBox::Mode mode) {
+  const DWORD kind = mode == Win32ComboBox::Mode::PickOnly ? CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS
+                                                           : CBS_DROPDOWN | CBS_AUTOHSCROLL;
+  return kind | WS_VSCROLL | WS_TABSTOP;
+}
+
+}  // namespace
+
+Win32ComboBox::Win32ComboBox(const CommandGate& gate, Mode mode, HWND parent, Win32Frame* frame)
+    : NativeWindow(parent, frame, {L"COMBOBOX", styleOf(mode)}), gate_(gate), mode_(mode) {
+  constexpr int mostVisibleItems = 20;
+  send(CB_SETMINVISIBLE, mostVisibleItems);
+}
+
+void Win32ComboBox::assign(std::vector<std::string> items) {
+  items_ = std::move(items);
+  send(WM_SETREDRAW, FALSE);
+  send(CB_RESETCONTENT);
+  for (const std::string& item : items_) send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(toWide(item).c_str()));
+  send(WM_SETREDRAW, TRUE);
+  fitList();
+  show(-1, {});
+}
+
+void Win32ComboBox::addItem(std::string_view text) {
+  items_.emplace_back(text);
+  send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(toWide(text).c_str()));
+  fitList();
+}
+
+std::string Win32ComboBox::itemText(int index) const {
+  if (index < 0 || index >= itemCount()) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
+  return items_[static_cast<std::size_t>(index)];
+}
+
+int Win32ComboBox::indexOf(std::string_view text) const {
+  const auto found = std::ranges::find(items_, text);
+  return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
+}
+
+void Win32ComboBox::setIndex(int index) {
+  show(index, index == -1 ? std::string() : itemText(index));
+  tell(events_.Click);
+}
+
+void Win32ComboBox::setText(std::string_view text) {
+  show(indexOf(text), std::string(text));
+  tell(events_.Click);
+}
+
+void Win32ComboBox::show(int index, std::string text) {
+  index_ = index;
+  text_ = std::move(text);
+  showNow();
+}
+
+void Win32ComboBox::showNow() {
+  showing_ = true;
+  send(CB_SETCURSEL, static_cast<WPARAM>(index_));
+  if (mode_ == Mode::TypedToo) NativeWindow::setText(toWide(text_));
+  if (handle() != nullptr) InvalidateRect(handle(), nullptr, TRUE);
+  showing_ = false;
+}
+
+// The list is as wide as its longest text, up to a limit.
+void Win32ComboBox::fitList() {
+  if (handle() == nullptr || items_.empty()) return;
+  const auto longest = std::ranges::max_element(items_, {}, &std::string::size);
+  const int wanted = TextMeasure(handle(), fontHandle()).width(toWide(*longest)) + scaled(handle(), 32);
+  RECT box{};
+  GetWindowRect(handle(), &box);
+  constexpr LONG widest = 3;  // in widths of the combo box
+  send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::min<LONG>(wanted, widest * (box.right - box.left))));
+}
+
+int Win32ComboBox::neededHeight() const {
+  return TextMeasure(handle(), fontHandle()).lineHeight() + scaled(handle(), 10);
+}
+
+void Win32ComboBox::setScreenFont(const FontHandle& font, int dpi) {
+  NativeWindow::setScreenFont(font, dpi);
+  const int line = TextMeasure(handle(), fontHandle()).lineHeight();
+  send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), line + scaled(handle(), 4));
+  send(CB_SETITEMHEIGHT, 0, line + scaled(handle(), 2));
+  fitList();
+}
+
+std::optional<LRESULT> Win32ComboBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  // Turning the mouse wheel over a closed box never changes it.
+  if (message == WM_MOUSEWHEEL && send(CB_GETDROPPEDSTATE) == FALSE) {
+    return SendMessageW(GetParent(handle()), message, wParam, lParam);
+  }
+  return std::nullopt;
+}
+
+void Win32ComboBox::onCommand(int notification) {
+  switch (notification) {
+    case CBN_SELENDOK: post(Picked); break;
+    case CBN_SELENDCANCEL:
+      // What was only looked at in the list is not chosen.
+      if (mode_ == Mode::PickOnly) showNow();
+      break;
+    case CBN_EDITCHANGE:
+      if (showing_) return;
+      text_ = fromWide(textOf(handle()));
+      index_ = indexOf(text_);
+      break;
+    case CBN_KILLFOCUS: post(MaybeLeft); break;
+    default: break;
+  }
+}
+
+void Win32ComboBox::onPosted(int what) {
+  if (what == MaybeLeft) {
+    // A list of its own, a menu, or another window in front does not count.
+    const HWND focus = GetFocus();
+    const bool stays = focus == nullptr || focus == handle() || IsChild(handle(), focus) != FALSE ||
+                       GetAncestor(focus, GA_ROOT) != GetAncestor(handle(), GA_ROOT);
+    if (!stays) tell(events_.LostFocus);
+    return;
+  }
+  const int picked = static_cast<int>(send(CB_GETCURSEL));
+  if (picked < 0 || picked >= itemCount()) return;
+  show(picked, itemText(picked));
+  const Lifeline::Watch alive = lifeline_.watch();
+  gate_.pass();
+  if (alive) tell(events_.Click);
+}
+
+void Win32ComboBox::onDraw(const DRAWITEMSTRUCT& item) {
+  const bool isBox = (item.itemState & ODS_COMBOBOXEDIT) != 0;
+  const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
+  const bool isDisabled = (item.itemState & (ODS_DISABLED | ODS_GRAYED)) != 0;
+  const auto index = static_cast<std::size_t>(item.itemID);
+  std::string text;
+  if (isBox) {
+    text = text_;
+  } else if (index < items_.size()) {
+    text = items_[index];
+  }
+  FillRect(item.hDC, &item.rcItem, GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  SetBkMode(item.hDC, TRANSPARENT);
+  const int color = isDisabled ? COLOR_GRAYTEXT : isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT;
+  SetTextColor(item.hDC, GetSysColor(color));
+  RECT place = item.rcItem;
+  place.left += scaled(handle(), 3);
+  DrawTextW(item.hDC, toWide(text).c_str(), -1, &place,
+            DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+  if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
+    DrawFocusRect(item.hDC, &item.rcItem);
+  }
+}
+
+}  // namespace mavCycEd::win32
