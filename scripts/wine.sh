@@ -21,6 +21,7 @@ start_wine() {
   fi
   wineserver --persistent </dev/null >/dev/null 2>&1 || true # it runs already
   wine cmd /c exit </dev/null >/dev/null 2>&1 || die "Wine does not start."
+  wine explorer </dev/null >/dev/null 2>&1 & # keeps the desktop, which each program would start anew
 }
 
 stop_wine() { wineserver --kill || true; }

@@ -51,8 +51,8 @@ inline NamedControls<win32::Win32PopupMenu> controlsOf(win32::EditorControls& c)
 }
 template <>
 inline NamedControls<win32::Win32Button> controlsOf(win32::EditorControls& c) {
-  return {{"cmdInset", &c.cmdInset},   {"cmdReplace", &c.cmdReplace}, {"cmdDelete", &c.cmdDelete},
-          {"cmdIns", &c.cmdIns},       {"cmdDel", &c.cmdDel},         {"cmdDefault", &c.cmdDefault}};
+  return {{"cmdInset", &c.cmdInset}, {"cmdReplace", &c.cmdReplace}, {"cmdDelete", &c.cmdDelete},
+          {"cmdIns", &c.cmdIns},     {"cmdDel", &c.cmdDel},         {"cmdDefault", &c.cmdDefault}};
 }
 template <>
 inline NamedControls<win32::Win32Frame> controlsOf(win32::EditorControls& c) {

@@ -12,9 +12,7 @@ enum Posted { Typed, Picked, Left };
 
 // A value is one line: what a paste brings along of line ends and tabs becomes blanks.
 std::wstring onOneLine(std::wstring text) {
-  const auto breaksLine = [](wchar_t c) {
-    return c < L' ' || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029;
-  };
+  const auto breaksLine = [](wchar_t c) { return c < L' ' || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029; };
   std::ranges::replace_if(text, breaksLine, L' ');
   return text;
 }

@@ -13,10 +13,10 @@ namespace mavCycEd::win32 {
 class CellEditor {
  public:
   struct Events {
-    std::function<void()> typed;               ///< the text changed
-    std::function<void(int item)> picked;      ///< an item of the list was picked
-    std::function<bool(WPARAM key)> key;       ///< a key that may end the edit; true: it was taken
-    std::function<void()> left;                ///< the keyboard focus may have gone elsewhere
+    std::function<void()> typed;           ///< the text changed
+    std::function<void(int item)> picked;  ///< an item of the list was picked
+    std::function<bool(WPARAM key)> key;   ///< a key that may end the edit; true: it was taken
+    std::function<void()> left;            ///< the keyboard focus may have gone elsewhere
   };
 
   /// An empty list: only a line to type into.

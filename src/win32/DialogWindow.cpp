@@ -13,7 +13,8 @@ constexpr int defaultButtonId = IDOK;
 }  // namespace
 
 DialogWindow::DialogWindow(HWND owner)
-    : PanelWindow(shownRootOf(owner), WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_CLIPSIBLINGS, WS_EX_DLGMODALFRAME),
+    : PanelWindow(shownRootOf(owner), WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_CLIPSIBLINGS,
+                  WS_EX_DLGMODALFRAME),
       owner_(shownRootOf(owner)) {}
 
 DialogWindow::~DialogWindow() { open_ = false; }

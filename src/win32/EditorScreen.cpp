@@ -76,9 +76,9 @@ void EditorScreen::setFont(const platform::Font& font) {
 
 ControlScreen EditorScreen::controls() {
   EditorControls& c = controls_;
-  return {c.fraCyclePart, c.fraDescription, c.txtCycleDescription, c.fraAtom,      c.lstAtomSequence,
-          c.cmdInset,     c.cmdReplace,     c.cmdDelete,           c.fraVariables, c.lstVariables,
-          c.cmdIns,       c.cmdDel,         c.fraSelectedMacro,    c.cboAtom,      c.GrdAtom,
+  return {c.fraCyclePart, c.fraDescription, c.txtCycleDescription, c.fraAtom,       c.lstAtomSequence,
+          c.cmdInset,     c.cmdReplace,     c.cmdDelete,           c.fraVariables,  c.lstVariables,
+          c.cmdIns,       c.cmdDel,         c.fraSelectedMacro,    c.cboAtom,       c.GrdAtom,
           c.cmdDefault,   c.mnuSubParam,    *c.tmrUpdateGrid,      variableDialogs_};
 }
 
@@ -89,9 +89,9 @@ void EditorScreen::fit() {
   font_ = makeFont(hostFont_ ? asDescription(*hostFont_, dpi) : systemFont(dpi));
   EditorControls& c = controls_;
   const std::array<NativeWindow*, 17> windows{
-      &c.fraSelectedMacro, &c.fraCyclePart,   &c.fraDescription,      &c.fraAtom,     &c.fraVariables, &c.cboAtom,
-      &c.GrdAtom.label(),  &c.GrdAtom.view(), &c.cmdInset,            &c.cmdReplace,  &c.lstAtomSequence,
-      &c.cmdDelete,        &c.cmdDefault,     &c.txtCycleDescription, &c.lstVariables, &c.cmdIns,      &c.cmdDel};
+      &c.fraSelectedMacro, &c.fraCyclePart,        &c.fraDescription, &c.fraAtom,    &c.fraVariables,    &c.cboAtom,
+      &c.GrdAtom.label(),  &c.GrdAtom.view(),      &c.cmdInset,       &c.cmdReplace, &c.lstAtomSequence, &c.cmdDelete,
+      &c.cmdDefault,       &c.txtCycleDescription, &c.lstVariables,   &c.cmdIns,     &c.cmdDel};
   for (NativeWindow* const window : windows) window->setScreenFont(font_, dpi);
   layOut();
 }
@@ -140,9 +140,7 @@ void EditorScreen::layOutCycle(const RECT& place) {
 
 // What the mouse does by clicks and double clicks has its keys, each good only in its own list.
 void EditorScreen::connectKeys() {
-  const auto press = [](Win32Button& button) {
-    return [&button] { SendMessageW(button.handle(), BM_CLICK, 0, 0); };
-  };
+  const auto press = [](Win32Button& button) { return [&button] { SendMessageW(button.handle(), BM_CLICK, 0, 0); }; };
   controls_.lstAtomSequence.setKeys(press(controls_.cmdDelete), [this] { controls_.GrdAtom.view().editCurrentRow(); });
   controls_.lstVariables.setKeys(press(controls_.cmdDel), [this] { controls_.lstVariables.doubleClick(); });
 }

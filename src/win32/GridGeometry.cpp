@@ -37,8 +37,8 @@ RECT GridGeometry::cell(int column, int row) const {
 bool GridGeometry::isInView(int row) const { return row >= top && row < top + pageRows(); }
 
 POINT GridGeometry::unitsAt(POINT pixels) const {
-  const int x = pixels.x < keyWidth() ? within(pixels.x, keyWidth(), valueColumnBegin)
-                                      : valueColumnBegin + pixels.x - keyWidth();
+  const int x =
+      pixels.x < keyWidth() ? within(pixels.x, keyWidth(), valueColumnBegin) : valueColumnBegin + pixels.x - keyWidth();
   const int row = rowAt(pixels.y);
   if (row == 0) return {x, within(pixels.y, titleHeight, rowUnits)};
   if (row > 0) return {x, rowUnits * row + within(pixels.y - cell(0, row).top, rowHeight, rowUnits)};

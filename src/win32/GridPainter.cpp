@@ -6,8 +6,8 @@
 #include <vssym32.h>
 
 #include <algorithm>
-#include <type_traits>
 #include <memory>
+#include <type_traits>
 
 #include "win32/Text.h"
 

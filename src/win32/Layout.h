@@ -12,10 +12,10 @@ class Spaces {
  public:
   Spaces(HWND window, HFONT font);
 
-  int gap = 0;           ///< between neighbours
-  int frameTop = 0;      ///< from a frame's upper edge to what stands in it
+  int gap = 0;       ///< between neighbours
+  int frameTop = 0;  ///< from a frame's upper edge to what stands in it
   int buttonHeight = 0;
-  int lineHeight = 0;    ///< of a text box of one line
+  int lineHeight = 0;  ///< of a text box of one line
 
   /// What is left for the contents of a frame.
   RECT inside(const RECT& frame) const;

@@ -5,7 +5,8 @@
 namespace mavCycEd::win32 {
 
 PanelWindow::PanelWindow(HWND parent, DWORD style, DWORD extendedStyle)
-    : NativeWindow(parent, nullptr, {ownWindowClass(L"mavCycEd.Panel", 0), style, WS_EX_CONTROLPARENT | extendedStyle}) {}
+    : NativeWindow(parent, nullptr,
+                   {ownWindowClass(L"mavCycEd.Panel", 0), style, WS_EX_CONTROLPARENT | extendedStyle}) {}
 
 void PanelWindow::layOut() {
   if (handle() != nullptr && layOut_) layOut_();

@@ -23,9 +23,9 @@ int Win32MessageBox::messageBox(platform::WindowHandle owner, std::string_view m
 
 std::string Win32SystemMessage::formatMessage(std::int32_t code) const {
   std::array<char, 260> buffer{};
-  const DWORD size = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                                    static_cast<DWORD>(code), 0, buffer.data(), static_cast<DWORD>(buffer.size()),
-                                    nullptr);
+  const DWORD size =
+      FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, static_cast<DWORD>(code), 0,
+                     buffer.data(), static_cast<DWORD>(buffer.size()), nullptr);
   return fromAnsi({buffer.data(), size});
 }
 

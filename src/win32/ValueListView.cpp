@@ -330,9 +330,7 @@ std::optional<LRESULT> ValueListView::onMessage(UINT message, WPARAM wParam, LPA
     case WM_MOUSEWHEEL: onWheel(GET_WHEEL_DELTA_WPARAM(wParam)); return 0;
     case WM_ENABLE:
     case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-      repaint();
-      return 0;
+    case WM_KILLFOCUS: repaint(); return 0;
     case WM_SETCURSOR: {
       POINT place{};
       GetCursorPos(&place);

@@ -8,9 +8,8 @@ Win32Editor::Win32Editor(HWND parent, platform::XmlDocumentFactory& xmlDocuments
                          EditorServices services)
     : screen_(parent, services.gridTimer),
       services_(completed(std::move(services), screen_)),
-      control_(screen_.controls(),
-               {xmlDocuments, *services_.messageBox, systemMessage_, codePage_, *services_.clock}, std::move(onError),
-               services_.provider) {}
+      control_(screen_.controls(), {xmlDocuments, *services_.messageBox, systemMessage_, codePage_, *services_.clock},
+               std::move(onError), services_.provider) {}
 
 EditorServices Win32Editor::completed(EditorServices services, EditorScreen& screen) {
   if (!services.messageBox) {

@@ -11,11 +11,11 @@
 namespace mavCycEd::win32 {
 
 Win32ListBox::Win32ListBox(const CommandGate& gate, HWND parent, Win32Frame* frame)
-    : NativeWindow(parent, frame,
-                   {L"LISTBOX",
-                    LBS_NODATA | LBS_OWNERDRAWFIXED | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL |
-                        WS_TABSTOP,
-                    WS_EX_CLIENTEDGE}),
+    : NativeWindow(
+          parent, frame,
+          {L"LISTBOX",
+           LBS_NODATA | LBS_OWNERDRAWFIXED | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP,
+           WS_EX_CLIENTEDGE}),
       gate_(gate) {}
 
 std::size_t Win32ListBox::checked(int index) const {
@@ -198,7 +198,9 @@ std::optional<LRESULT> Win32ListBox::onKey(UINT message, WPARAM wParam, LPARAM l
 // The next item that begins with a typed character, as a list box with texts of its own finds it.
 bool Win32ListBox::searchFor(wchar_t character) {
   if (character <= L' ' || items_.empty()) return true;
-  const auto folded = [](wchar_t c) { return std::bit_cast<std::uintptr_t>(CharUpperW(std::bit_cast<LPWSTR>(std::uintptr_t{c}))); };
+  const auto folded = [](wchar_t c) {
+    return std::bit_cast<std::uintptr_t>(CharUpperW(std::bit_cast<LPWSTR>(std::uintptr_t{c})));
+  };
   const int count = itemCount();
   for (int step = 1; step <= count; ++step) {
     const int index = (index_ + step) % count;

@@ -71,8 +71,8 @@ void Win32PopupMenu::open() {
   GetCursorPos(&place);
   if (place_) place = place_();
   const Lifeline::Watch alive = lifeline_.watch();
-  const int chosen = TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, place.x, place.y, owner,
-                                      nullptr);
+  const int chosen =
+      TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, place.x, place.y, owner, nullptr);
   DestroyMenu(menu);
   if (!alive || chosen == 0) return;
   gate_.pass();

@@ -65,8 +65,7 @@ LRESULT Win32SelectionList::onNotify(const NMHDR& notification) {
   if (notification.code != LVN_ITEMCHANGED || filling_) return 0;
   const auto& change = reinterpret_cast<const NMLISTVIEW&>(notification);
   if ((change.uChanged & LVIF_STATE) == 0 || change.iItem < 0 || change.iItem >= itemCount()) return 0;
-  items_[checked(change.iItem)].selected =
-      ListView_GetCheckState(handle(), static_cast<UINT>(change.iItem)) != 0;
+  items_[checked(change.iItem)].selected = ListView_GetCheckState(handle(), static_cast<UINT>(change.iItem)) != 0;
   return 0;
 }
 

@@ -11,12 +11,12 @@ constexpr WPARAM controlA = 1;  // as the character that Ctrl+A types
 }  // namespace
 
 Win32TextBox::Win32TextBox(Lines lines, HWND parent, Win32Frame* frame)
-    : NativeWindow(parent, frame,
-                   {L"EDIT",
-                    WS_TABSTOP | (lines == Lines::One
-                                      ? DWORD{ES_AUTOHSCROLL}
-                                      : DWORD{ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL}),
-                    WS_EX_CLIENTEDGE}),
+    : NativeWindow(
+          parent, frame,
+          {L"EDIT",
+           WS_TABSTOP | (lines == Lines::One ? DWORD{ES_AUTOHSCROLL}
+                                             : DWORD{ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL}),
+           WS_EX_CLIENTEDGE}),
       lines_(lines) {
   send(EM_SETLIMITTEXT, 0);  // as much as there is memory for
 }

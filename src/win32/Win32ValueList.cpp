@@ -10,11 +10,11 @@ Win32ValueList::Win32ValueList(HWND parent, Win32Frame* frame) : label_(parent, 
 }
 
 void Win32ValueList::connectView() {
-  view_.setEvents({.rowChosen = [this] { tell(events_.SelectionChange); },
-                   .mousePressed = [this](platform::MouseButton button, int x,
-                                          int y) { tell(events_.MouseDown, button, x, y); },
-                   .mouseMoved = [this](int x, int y) { tell(events_.MouseMove, x, y); },
-                   .menuAskedFor = [this](int x, int y) { tell(events_.ContextPopup, x, y); }});
+  view_.setEvents(
+      {.rowChosen = [this] { tell(events_.SelectionChange); },
+       .mousePressed = [this](platform::MouseButton button, int x, int y) { tell(events_.MouseDown, button, x, y); },
+       .mouseMoved = [this](int x, int y) { tell(events_.MouseMove, x, y); },
+       .menuAskedFor = [this](int x, int y) { tell(events_.ContextPopup, x, y); }});
   view_.cellEdit().setEvents({.typed = [this](int row) { raiseSetEditText(row); },
                               .picked = [this](int row) { raiseEndOfEdit(row); },
                               .ended = [this](int row) { raiseEndOfEdit(row); },

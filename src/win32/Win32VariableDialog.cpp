@@ -53,20 +53,11 @@ void Win32VariableDialog::fit() {
   const int dpi = dpiOf(window());
   font_ = makeFont(systemFont(dpi));
   VariableDialogControls& c = controls_;
-  const std::array<NativeWindow*, 14> windows{&c.fraValue,
-                                              &c.txtParamName,
-                                              &c.fraParamType,
-                                              &c.optNrValue,
-                                              &c.optObjValue,
-                                              &c.fraValues,
-                                              &c.grdParamStnd.label(),
-                                              &c.grdParamStnd.view(),
-                                              &c.lblUnit,
-                                              &c.cboUnit,
-                                              &c.fraObjects,
-                                              &c.lstObject,
-                                              &c.OKButton,
-                                              &c.cmdCancel};
+  const std::array<NativeWindow*, 14> windows{
+      &c.fraValue,    &c.txtParamName, &c.fraParamType,         &c.optNrValue,
+      &c.optObjValue, &c.fraValues,    &c.grdParamStnd.label(), &c.grdParamStnd.view(),
+      &c.lblUnit,     &c.cboUnit,      &c.fraObjects,           &c.lstObject,
+      &c.OKButton,    &c.cmdCancel};
   for (NativeWindow* const window : windows) window->setScreenFont(font_, dpi);
   layOut();
 }

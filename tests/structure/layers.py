@@ -24,6 +24,7 @@ ROOMS = {
     "libxml2": ("platform", "text"),
     "memory": CORE,
     "qt": (*CORE, "libxml2"),
+    "win32": CORE,
 }
 
 # Single headers behind which the rest of their room stays hidden from other rooms.
@@ -33,6 +34,7 @@ ONLY_HEADER_FOR_ROOMS = {"libxml2": "libxml2/Libxml2DocumentFactory.h"}
 LIBRARIES = {
     "libxml2": re.compile(r"libxml/\w+\.h"),
     "qt": re.compile(r"Q\w+(/\w+)?"),
+    "win32": re.compile(r"(windows|windowsx|commctrl|oleacc|oleauto|uxtheme|vssym32)\.h"),
 }
 
 STANDARD_HEADERS = frozenset("""
@@ -202,6 +204,9 @@ def self_test():
     bad = [
         ("src/text/Bad.h", "#include <QString>\n", "src/text/Bad.h:1: the room \"text\" may not include <QString>"),
         ("src/text/Bad.h", "#include <windows.h>\n", "may not include <windows.h>"),
+        ("src/qt/Bad.cpp", "#include <windows.h>\n", "may not include <windows.h>"),
+        ("src/win32/Bad.cpp", "#include <QWidget>\n", 'the room "win32" may not include <QWidget>'),
+        ("src/win32/Bad.h", '#include "qt/Editor.h"\n', 'the room "win32" may not include "qt/Editor.h"'),
         ("src/control/Bad.cpp", "\n\n#include <libxml/tree.h>\n", "src/control/Bad.cpp:3: the room \"control\""),
         ("src/qt/Bad.cpp", "#include <libxml/tree.h>\n", "may not include <libxml/tree.h>"),
         ("src/platform/Bad.h", '#include "text/Strings.h"\n', 'the room "platform" may not include "text/Strings.h"'),
