@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSplitter>
 #include <QTableView>
 #include <QTest>
@@ -184,6 +185,48 @@ TEST_F(Control, ReadingCycleChangedDoesNotDisturbTheEdit) {
   edit(2);
   EXPECT_FALSE(control.property("CycleChanged").toBool());
   EXPECT_NE(editor(2), nullptr);
+}
+
+TEST_F(Control, MacroTextIsTakenWhenTheEditHasEnded) {
+  choose("Aspirate");
+  press("cmdInset");
+  edit(2);
+  QTest::keyClicks(editor(2), "700");
+  EXPECT_EQ(control.MacroString(), "//\r\nAspirate(1,)\r\n");
+  EXPECT_EQ(boxes->messages.size(), 1U) << "the end of the edit is told";
+  EXPECT_EQ(value(2), "700");
+}
+
+TEST_F(Control, MacroTextThatCannotBeWrittenIsEmptyAndTold) {
+  control.SetXMLStrings(catalogue, QStringLiteral("<CYCLE><VARIABLES/><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>Home"
+                                                  "</ATOMNAME><PARAMETERS><PARAMETER><PARAMNAME/><PARAMVALUE>1"
+                                                  "</PARAMVALUE></PARAMETER><PARAMETER><PARAMNAME>P</PARAMNAME>"
+                                                  "<PARAMVALUE>2</PARAMVALUE></PARAMETER></PARAMETERS></ATOM></ATOMS>"
+                                                  "</ATOMSEQUENCE></CYCLE>"));
+  const QSignalSpy errors(&control, &ctlCycEd::CycleEditorError);
+  EXPECT_EQ(control.MacroString(), "");
+  ASSERT_EQ(errors.count(), 1);
+  EXPECT_EQ(errors[0][4].toString(), "RetrieveMacroString ");
+}
+
+TEST_F(Control, MacroTextIsNoNewBaseline) {
+  choose("Home");
+  press("cmdInset");
+  EXPECT_NE(control.MacroString(), "");
+  EXPECT_TRUE(control.CycleChanged());
+}
+
+TEST_F(Control, InvalidValueIsNamedAndValidOnesLeaveTheMessage) {
+  choose("Aspirate");
+  QString message(QStringLiteral("as before"));
+  edit(2);
+  QTest::keyClicks(editor(2), "7");
+  EXPECT_TRUE(control.ParamValueControl(message));
+  EXPECT_EQ(message, "as before");
+  edit(1);
+  QTest::keyClicks(editor(1), "wenig µl");
+  EXPECT_FALSE(control.ParamValueControl(message));
+  EXPECT_EQ(message, "Parameter Volume(ul) has invalid value of wenig µl.");
 }
 
 TEST_F(Control, NewCycleEndsTheEditFirst) {

@@ -74,6 +74,20 @@ class ctlCycEd : public QWidget {
   bool CycleChanged();
   void setResetCycle(const QString& strCycle);
 
+  // Services for C++ hosts; they are no members of the interface that can be reached by name.
+
+  /// The edited cycle as a macro text: the description, the variables and the atom lines, without the header "[PMA]"
+  /// that SetXMLStrings expects in front of them. It is empty when a line cannot be written, which CycleEditorError
+  /// tells. CycleChanged is not concerned.
+  ///
+  /// A macro text carries less than a cycle document: the first line of the description, and the values of the atom
+  /// lines with two parameters or more.
+  QString MacroString();
+
+  /// Whether every row of the parameter grid holds a valid value. If not, message names the first row that does not;
+  /// otherwise it stays as it is.
+  bool ParamValueControl(QString& message);
+
  signals:
   /// A procedure of the control has failed.
   /// lngError: the error's number; mavCycEdErrorInvalidXML, or a usual run-time error number.
