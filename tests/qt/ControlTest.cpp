@@ -15,6 +15,7 @@
 #include "control/EditorControl.h"
 #include "mavCycEd/ctlCycEd.h"
 #include "qt/EditorAccess.h"
+#include "qt/ValueListModel.h"
 
 namespace mavCycEd::test {
 namespace {
@@ -227,6 +228,28 @@ TEST_F(Control, InvalidValueIsNamedAndValidOnesLeaveTheMessage) {
   QTest::keyClicks(editor(1), "wenig µl");
   EXPECT_FALSE(control.ParamValueControl(message));
   EXPECT_EQ(message, "Parameter Volume(ul) has invalid value of wenig µl.");
+}
+
+TEST_F(Control, VariablesComeToTheirRowsAndGoAgain) {
+  control.SetXMLStrings(
+      QStringLiteral("<LATESTKAM><ATOMS><ATOM><AtomName>Take</AtomName><Param>Source;TRAY;None</Param>"
+                     "<Param>Count;1;9;1;1;None</Param></ATOM></ATOMS><OBJECTS><OBJECT><C>TRAY</C><N>Tray1</N>"
+                     "</OBJECT></OBJECTS></LATESTKAM>"),
+      QStringLiteral("<CYCLE><VARIABLES><VALUE>V ();1;1;1</VALUE></VARIABLES><ATOMSEQUENCE><ATOMS/></ATOMSEQUENCE>"
+                     "</CYCLE>"));
+  choose("Take");
+  const auto offered = [this](int row) {
+    return grid().model()->index(row - 1, 1).data(qt::ValueListModel::PickListRole).toStringList();
+  };
+  EXPECT_EQ(offered(1), QStringList({"Tray1", "V"}));
+  EXPECT_EQ(offered(2), QStringList()) << "a number is typed; its menu offers the variable";
+  EXPECT_EQ(editorOf(control).parameterRows().row(2).ExtraValues, "V");
+  EXPECT_EQ(value(1), "Tray1");
+  widget("lstVariables").setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+  press("cmdDel");
+  EXPECT_EQ(offered(1), QStringList({"Tray1"}));
+  EXPECT_EQ(editorOf(control).parameterRows().row(2).ExtraValues, "");
 }
 
 TEST_F(Control, NewCycleEndsTheEditFirst) {
