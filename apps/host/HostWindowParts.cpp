@@ -56,7 +56,7 @@ void HostWindow::buildFileMenu() {
   cycleActions_ << addCommand(*fileMenu_, QStringLiteral("Save &as..."), QKeySequence(QStringLiteral("Ctrl+Shift+S")),
                               QStringLiteral("Write the cycle to another file"), &HostWindow::saveAs);
   cycleActions_ << addCommand(
-      *fileMenu_, QStringLiteral("&Export macro text..."), QKeySequence(QStringLiteral("Ctrl+E")),
+      *fileMenu_, QStringLiteral("&Export macro text..."), QKeySequence(QStringLiteral("Ctrl+Shift+E")),
       QStringLiteral("Write the cycle to another file as lines of text"), &HostWindow::exportMacroText);
   fileMenu_->addSeparator();
   addCommand(*fileMenu_, QStringLiteral("Open &catalogue..."), QKeySequence(QStringLiteral("Ctrl+Shift+O")),

@@ -75,7 +75,7 @@ QStringList lostInMacroText(const QString& document) {
   if (hasLineEnd(description)) {
     losses << QStringLiteral("Only the first line of the description stays a description.");
   }
-  tell(QStringLiteral("An atom line with one parameter gets the default in place of its value: %1."),
+  tell(QStringLiteral("An atom line with one parameter loses its value: %1."),
        linesWith(cycle, [](const auto& line) { return line.values.size() == 1 && !line.values.front().isEmpty(); }));
   tell(QStringLiteral("An atom line whose name is not made of A to Z and _ becomes a variable: %1."),
        linesWith(cycle, [](const auto& line) { return !isCallName(line.name); }));

@@ -37,7 +37,7 @@ TEST(MacroExportTest, WhatIsLostIsNamed) {
   EXPECT_EQ(lostInMacroText(cycleWith({}, {},
                                       {QStringLiteral("REPEAT|2"), QStringLiteral("REPEAT|3"), QStringLiteral("END"),
                                        QStringLiteral("WAIT|4"), QStringLiteral("WAIT|5"), QStringLiteral("WAIT|6")})),
-            QStringList{QStringLiteral("An atom line with one parameter gets the default in place of its value: "
+            QStringList{QStringLiteral("An atom line with one parameter loses its value: "
                                        "1 REPEAT, 2 REPEAT, 4 WAIT and 2 more.")});
   EXPECT_EQ(lostInMacroText(cycleWith({}, {}, {QStringLiteral("Home"), QStringLiteral("A"), QStringLiteral("MIX_2")})),
             QStringList{QStringLiteral("An atom line whose name is not made of A to Z and _ becomes a variable: "
