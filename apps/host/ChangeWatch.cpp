@@ -6,14 +6,11 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QWidget>
-#include <algorithm>
 
 namespace mavCycEd::host {
 namespace {
 
-constexpr int shortestRest = 1000;  // milliseconds
-constexpr int longestRest = 30000;
-constexpr int restsPerAnswer = 20;  // asking takes a twentieth of the time at most
+constexpr int rest = 1000;  // milliseconds, like the next one
 constexpr qint64 quickAnswer = 50;
 
 /// Whether a key may enter something: it has a text, and is neither a movement nor a command.
@@ -75,7 +72,11 @@ bool ChangeWatch::isInEditor(const QObject* receiver) const {
 void ChangeWatch::takeInput(bool entering) {
   entered_ = entered_ || entering;
   inputSinceAnswer_ = true;
-  rest_.start(static_cast<int>(std::clamp<qint64>(restsPerAnswer * lastAnswerTook_, shortestRest, longestRest)));
+  if (answersQuickly()) {
+    rest_.start(rest);
+  } else if (entering) {
+    setChanged(true);
+  }
 }
 
 void ChangeWatch::whenRested() {
@@ -83,11 +84,13 @@ void ChangeWatch::whenRested() {
   const bool busy = QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
                     QGuiApplication::mouseButtons() != Qt::NoButton;
   if (busy) {
-    rest_.start(shortestRest);
-  } else if (!changed_ || lastAnswerTook_ <= quickAnswer) {
+    rest_.start(rest);
+  } else {
     ask();
   }
 }
+
+bool ChangeWatch::answersQuickly() const { return lastAnswerTook_ <= quickAnswer; }
 
 bool ChangeWatch::ask() {
   rest_.stop();
@@ -102,7 +105,7 @@ bool ChangeWatch::ask() {
 
 void ChangeWatch::glance() {
   const bool inDialog = QApplication::activeModalWidget() != nullptr;
-  if (inputSinceAnswer_ && !inDialog && lastAnswerTook_ <= quickAnswer) ask();
+  if (inputSinceAnswer_ && !inDialog && answersQuickly()) ask();
 }
 
 void ChangeWatch::settle(bool changed) {

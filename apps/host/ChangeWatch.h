@@ -12,8 +12,8 @@ namespace mavCycEd::host {
 /// costs the editor the writing of the whole cycle.
 ///
 /// It looks at what the operator does in the editor. Nothing done, nothing asked. After the last key or click there is
-/// a rest of a second before the editor is asked, longer when its last answer took long. A change that is known is not
-/// asked for again while the answer takes long.
+/// a rest of a second before the editor is asked. A cycle whose answer takes long is not asked about at all then: it
+/// counts as changed as soon as the operator enters something, until a question that matters is asked.
 class ChangeWatch : public QObject {
   Q_OBJECT
 
@@ -21,7 +21,7 @@ class ChangeWatch : public QObject {
   /// Watches an editor; `isChanged` asks it. The editor outlives this object.
   ChangeWatch(QWidget& editor, std::function<bool()> isChanged);
 
-  /// Whether the cycle had changed when the editor was asked last.
+  /// Whether the cycle has changed, as far as is known.
   bool changed() const { return changed_; }
   /// Whether the operator may have entered something since settle(): typed, pasted, pressed a button, chosen from a
   /// menu. The editor knows of no change while there is nothing in the sequence; this knows.
@@ -43,6 +43,7 @@ class ChangeWatch : public QObject {
   bool isInEditor(const QObject* receiver) const;
   void takeInput(bool entering);
   void whenRested();
+  bool answersQuickly() const;
   void setChanged(bool changed);
 
   QWidget& editor_;

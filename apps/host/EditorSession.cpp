@@ -2,8 +2,6 @@
 
 #include <mavCycEd/ctlCycEd.h>
 
-#include <utility>
-
 namespace mavCycEd::host {
 
 EditorSession::EditorSession(ctlCycEd& editor)
@@ -47,6 +45,20 @@ bool EditorSession::hasUnsavedWork() {
   if (changes_.ask()) return true;
   // A cycle without atom lines never reads as changed, whatever its description and variables are.
   return changes_.entered() && editor_.RetrieveCycle().isEmpty();
+}
+
+QString EditorSession::lookAtCycle() {
+  const bool unsaved = changes_.ask();
+  const QString cycle = editor_.RetrieveCycle();
+  baselineUnsaved_ = unsaved;
+  if (!cycle.isEmpty()) loaded_ = cycle;
+  return cycle;
+}
+
+std::pair<QString, QStringList> EditorSession::macroText() {
+  reported_.clear();
+  QString text = editor_.MacroString();
+  return {std::move(text), std::exchange(reported_, {})};
 }
 
 QString EditorSession::takeCycle() {

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <utility>
 
 #include "ChangeWatch.h"
 
@@ -44,6 +45,10 @@ class EditorSession : public QObject {
   /// until saved() is called.
   QString takeCycle();
   void saved();
+  /// The cycle as it is, to look at: it counts as saved or unsaved as before. Empty as with takeCycle().
+  QString lookAtCycle();
+  /// The cycle as the editor writes it as a macro text, and what it reports meanwhile.
+  std::pair<QString, QStringList> macroText();
 
   ChangeWatch& changes() { return changes_; }
 

@@ -13,8 +13,10 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
+#include <tuple>
 
 #include "ErrorDock.h"
+#include "MacroExport.h"
 #include "WelcomeBar.h"
 
 namespace mavCycEd::host {
@@ -50,6 +52,26 @@ Problem nothingToSave(const QString& name) {
           QStringLiteral("It has no atom lines, and the editor hands back nothing without them, not even the "
                          "description and the variables."),
           QStringLiteral("Insert an atom line and save again. Nothing was written.")};
+}
+
+Problem nothingToExport(const QString& name) {
+  return {QStringLiteral("\"%1\" cannot be exported yet.").arg(name), QStringLiteral("It has no atom lines."),
+          QStringLiteral("Insert an atom line and export again. Nothing was written.")};
+}
+
+Problem notExported(const QString& name, const QStringList& reported) {
+  QString why = QStringLiteral("One of its atom lines cannot be written in this form.");
+  if (!reported.isEmpty()) why += QStringLiteral(" The editor reported: %1.").arg(reported.front());
+  return {
+      QStringLiteral("\"%1\" cannot be exported as a macro text.").arg(name), why,
+      QStringLiteral("Look for an atom line with several parameters of which one has no name, and replace or delete "
+                     "it. Nothing was written, and the cycle stays as it is.")};
+}
+
+Problem ownFile(const QString& name) {
+  return {QStringLiteral("The macro text was not written to \"%1\".").arg(name),
+          QStringLiteral("This is the file of the cycle itself, and the next saving would replace the macro text."),
+          QStringLiteral("Export it under another name.")};
 }
 
 }  // namespace
@@ -203,14 +225,22 @@ void HostWindow::openLastInstrument() {
 bool HostWindow::save() { return path_.isEmpty() ? saveAs() : saveTo(path_); }
 
 bool HostWindow::saveAs() {
-  QFileDialog dialog(this, QStringLiteral("Save the cycle"));
+  const QString name = hasName() ? cycleName() : QStringLiteral("cycle.xml");
+  const QString path =
+      chooseTarget(QStringLiteral("Save the cycle"), QStringLiteral("Cycles (*.xml)"), QStringLiteral("xml"), name);
+  return !path.isEmpty() && saveTo(path);
+}
+
+QString HostWindow::chooseTarget(const QString& title, const QString& kind, const QString& suffix,
+                                 const QString& name) {
+  QFileDialog dialog(this, title);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(QStringLiteral("xml"));
-  dialog.setNameFilters({QStringLiteral("Cycles (*.xml)"), QStringLiteral("All files (*)")});
-  const QString suggested = path_.isEmpty() ? suggestion_ : path_;
-  dialog.setDirectory(suggested.isEmpty() ? folderOf(DocumentKind::Cycle) : QFileInfo(suggested).path());
-  dialog.selectFile(suggested.isEmpty() ? QStringLiteral("cycle.xml") : fileName(suggested));
-  return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
+  dialog.setDefaultSuffix(suffix);
+  dialog.setNameFilters({kind, QStringLiteral("All files (*)")});
+  const QString known = path_.isEmpty() ? suggestion_ : path_;
+  dialog.setDirectory(known.isEmpty() ? folderOf(DocumentKind::Cycle) : QFileInfo(known).path());
+  dialog.selectFile(name);
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constFirst() : QString();
 }
 
 bool HostWindow::saveTo(const QString& path) {
@@ -231,6 +261,46 @@ bool HostWindow::saveTo(const QString& path) {
   takePath(QFileInfo(path).absoluteFilePath(), {});
   statusBar()->showMessage(QStringLiteral("Saved %1.").arg(fileName(path)), hintTime);
   return true;
+}
+
+void HostWindow::exportMacroText() {
+  QString text;
+  QStringList reported;
+  QString cycle;
+  {
+    const WaitCursor waiting;
+    std::tie(text, reported) = session_->macroText();
+    if (!text.isEmpty()) cycle = session_->lookAtCycle();
+  }
+  if (text.isEmpty()) return tell(notExported(cycleName(), reported));
+  if (cycle.isEmpty()) return tell(nothingToExport(cycleName()));
+  if (!mayLose(lostInMacroText(cycle))) return;
+  const QString name = hasName() ? QFileInfo(cycleName()).completeBaseName() : QStringLiteral("cycle");
+  const QString path =
+      chooseTarget(QStringLiteral("Export the cycle as a macro text"), QStringLiteral("Macro texts (*.txt *.pma)"),
+                   QStringLiteral("txt"), name + QStringLiteral(".txt"));
+  if (!path.isEmpty()) tellIfAny(exportTo(path, text));
+}
+
+std::optional<Problem> HostWindow::exportTo(const QString& path, const QString& macroText) {
+  if (!path_.isEmpty() && QFileInfo(path) == QFileInfo(path_)) return ownFile(fileName(path));
+  if (std::optional<Problem> problem = saveCycle(path, macroFileOf(macroText))) return problem;
+  rememberFolder(DocumentKind::Cycle, path);
+  statusBar()->showMessage(QStringLiteral("Exported %1.").arg(fileName(path)), hintTime);
+  return std::nullopt;
+}
+
+bool HostWindow::mayLose(const QStringList& losses) {
+  if (losses.isEmpty()) return true;
+  QMessageBox question(QMessageBox::Warning, QStringLiteral("Export as a macro text"),
+                       QStringLiteral("A macro text cannot carry all of \"%1\".").arg(cycleName()),
+                       QMessageBox::Save | QMessageBox::Cancel, this);
+  question.setTextFormat(Qt::PlainText);
+  question.setInformativeText(losses.join(QStringLiteral("\n\n")) +
+                              QStringLiteral("\n\nThe cycle itself stays as it is."));
+  question.button(QMessageBox::Save)->setText(QStringLiteral("&Export anyway"));
+  question.setDefaultButton(QMessageBox::Cancel);
+  return question.exec() == QMessageBox::Save;
 }
 
 bool HostWindow::mayClose(const QString& purpose) {

@@ -76,6 +76,7 @@ class HostWindow : public QMainWindow {
   void toggleHidden(bool ignore);
   bool save();
   bool saveAs();
+  void exportMacroText();
   void showAbout();
 
   // Steps of the commands.
@@ -85,13 +86,18 @@ class HostWindow : public QMainWindow {
   bool mayClose(const QString& purpose);
   bool mayReload();
   bool saveTo(const QString& path);
+  bool mayLose(const QStringList& losses);
+  std::optional<Problem> exportTo(const QString& path, const QString& macroText);
   QString chooseFile(DocumentKind kind);
+  /// The file to write to; empty when the operator thinks better of it.
+  QString chooseTarget(const QString& title, const QString& kind, const QString& suffix, const QString& name);
   QString folderOf(DocumentKind kind) const;
   void rememberFolder(DocumentKind kind, const QString& path);
   void tellIfAny(const std::optional<Problem>& problem);
   void takePath(const QString& path, const QString& suggestion);
   void showState();
   void fillRecentMenu();
+  bool hasName() const { return !path_.isEmpty() || !suggestion_.isEmpty(); }
   QString cycleName() const;
 
   QSettings& settings_;

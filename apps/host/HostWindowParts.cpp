@@ -55,6 +55,9 @@ void HostWindow::buildFileMenu() {
                               QStringLiteral("Write the cycle to its file"), &HostWindow::save);
   cycleActions_ << addCommand(*fileMenu_, QStringLiteral("Save &as..."), QKeySequence(QStringLiteral("Ctrl+Shift+S")),
                               QStringLiteral("Write the cycle to another file"), &HostWindow::saveAs);
+  cycleActions_ << addCommand(
+      *fileMenu_, QStringLiteral("&Export macro text..."), QKeySequence(QStringLiteral("Ctrl+Shift+E")),
+      QStringLiteral("Write the cycle to another file as lines of text"), &HostWindow::exportMacroText);
   fileMenu_->addSeparator();
   addCommand(*fileMenu_, QStringLiteral("Open &catalogue..."), QKeySequence(QStringLiteral("Ctrl+Shift+O")),
              QStringLiteral("Choose the instrument: its atoms, objects and lists"), &HostWindow::chooseCatalogue);

@@ -167,7 +167,7 @@ void QtDriver::ResetCycle(const std::string& strCycle) {
 }
 
 const EditorControl& QtDriver::editor() const { return editorOf(*control_); }
-std::string QtDriver::MacroString() { return editorOf(*control_).MacroString(); }
+std::string QtDriver::MacroString() { return control_->MacroString().toStdString(); }
 
 // The widget of this name, to look at it.
 template <typename Widget>

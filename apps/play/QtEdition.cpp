@@ -12,7 +12,6 @@
 namespace mavCycEd::play {
 namespace {
 
-// What a platform without a window manager has to say of itself is nothing that a scenario shows.
 void writeQtMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message) {
   const bool ofThePlatform = message.startsWith("This plugin does not support") || message.contains("XDG_RUNTIME_DIR");
   if (!ofThePlatform) std::cerr << message.toStdString() << '\n';
@@ -20,9 +19,11 @@ void writeQtMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, c
 
 }  // namespace
 
+void tellWhatQtSays() { qInstallMessageHandler(writeQtMessage); }
+
 int withQtDriver(int argc, char** argv, const std::string& now, const std::function<int(ControlDriver&)>& body) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  qInstallMessageHandler(writeQtMessage);
+  tellWhatQtSays();
   const QApplication application(argc, argv);
   HostServices services;
   services.messageBox =

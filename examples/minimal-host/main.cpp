@@ -24,7 +24,7 @@ int main(int argc, char** argv) {
 
   mavCycEd::ctlCycEd editor;
   QObject::connect(&editor, &mavCycEd::ctlCycEd::CycleEditorError, [&errors](int lngError, const QString& strError) {
-    errors << lngError << ": " << strError << '\n';
+    errors << lngError << ": " << strError << Qt::endl;
   });
   editor.SetConfigXML(contentOf(files[0]));
   editor.SetXMLStrings(contentOf(files[1]), contentOf(files[2]));

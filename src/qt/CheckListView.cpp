@@ -2,11 +2,14 @@
 
 #include <QMouseEvent>
 
+#include "qt/RowDelegate.h"
+
 namespace mavCycEd::qt {
 
 CheckListView::CheckListView(CheckListModel* model, QWidget* parent) : QListView(parent), model_(model) {
   model->setParent(this);
   setModel(model);
+  setItemDelegate(new RowDelegate(this));
   setEditTriggers(NoEditTriggers);
   setSelectionMode(SingleSelection);
 }

@@ -8,12 +8,14 @@
 #include <algorithm>
 
 #include "qt/FocusRules.h"
+#include "qt/RowDelegate.h"
 
 namespace mavCycEd::qt {
 
 ComboWidget::ComboWidget(QWidget* parent) : QComboBox(parent) {
   constexpr int mostVisibleItems = 20;
   setMaxVisibleItems(mostVisibleItems);
+  setItemDelegate(new RowDelegate(this));
   // A list with a scroll bar in every style, not a menu as high as the screen.
   setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
 }

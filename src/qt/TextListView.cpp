@@ -4,8 +4,8 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
+#include "qt/RowDelegate.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
@@ -13,17 +13,15 @@ namespace {
 
 // Every item gets the size of the longest one, so that a list of any length is laid out at once and can be scrolled
 // sideways to the end of each text.
-class UniformDelegate : public QStyledItemDelegate {
+class UniformDelegate : public RowDelegate {
  public:
-  UniformDelegate(const TextListModel& model, QObject* parent) : QStyledItemDelegate(parent), model_(model) {}
+  UniformDelegate(const TextListModel& model, QObject* parent) : RowDelegate(parent), model_(model) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    const QSize own = QStyledItemDelegate::sizeHint(option, index);
     const QString text = index.data().toString();
     const int difference =
         option.fontMetrics.horizontalAdvance(toQt(model_.longest())) - option.fontMetrics.horizontalAdvance(text);
-    constexpr int air = 3;  // between the lines
-    return {own.width() + difference, own.height() + air};
+    return RowDelegate::sizeHint(option, index) + QSize(difference, 0);
   }
 
  private:

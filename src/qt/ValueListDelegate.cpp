@@ -15,15 +15,16 @@ QRect ValueListDelegate::arrowRect(const QRect& cell, const QModelIndex& index) 
   return {cell.right() - width + 1, cell.top(), width, cell.height()};
 }
 
-void ValueListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+void ValueListDelegate::paintRow(QPainter* painter, const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const {
   const QRect arrow = arrowRect(option.rect, index);
   if (arrow.isEmpty()) {
-    QStyledItemDelegate::paint(painter, option, index);
+    RowDelegate::paintRow(painter, option, index);
     return;
   }
   QStyleOptionViewItem text = option;
   text.rect.setRight(arrow.left() - 1);
-  QStyledItemDelegate::paint(painter, text, index);
+  RowDelegate::paintRow(painter, text, index);
 
   // The rest of the cell, with the arrow in it.
   const QStyle& style = option.widget != nullptr ? *option.widget->style() : *QApplication::style();

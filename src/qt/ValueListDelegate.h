@@ -1,21 +1,20 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "qt/RowDelegate.h"
 
 namespace mavCycEd::qt {
 
 /// Draws the cells of a value list, with an arrow where there is a list to pick from, and makes the editors of its
 /// values. What happens in an editor is CellEdit's affair.
-class ValueListDelegate : public QStyledItemDelegate {
+class ValueListDelegate : public RowDelegate {
   Q_OBJECT
 
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using RowDelegate::RowDelegate;
 
   /// Where the arrow of a cell is; empty for a cell without a list.
   static QRect arrowRect(const QRect& cell, const QModelIndex& index);
 
-  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const override;
@@ -24,6 +23,7 @@ class ValueListDelegate : public QStyledItemDelegate {
   void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
 
  protected:
+  void paintRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 };
 

@@ -1,5 +1,6 @@
 #include "qt/include/mavCycEd/ctlCycEd.h"
 
+#include <string>
 #include <utility>
 
 #include "control/EditorControl.h"
@@ -77,6 +78,15 @@ bool ctlCycEd::CycleChanged() { return implementation_->editor().CycleChanged();
 
 void ctlCycEd::setResetCycle(const QString& strCycle) {
   implementation_->settledEditor().ResetCycle(qt::fromQt(strCycle));
+}
+
+QString ctlCycEd::MacroString() { return qt::toQt(implementation_->settledEditor().MacroString()); }
+
+bool ctlCycEd::ParamValueControl(QString& message) {
+  std::string text = qt::fromQt(message);
+  const bool valid = implementation_->settledEditor().ParamValueControl(text);
+  message = qt::toQt(text);
+  return valid;
 }
 
 EditorControl& editorOf(ctlCycEd& control) { return control.implementation_->editor(); }

@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSplitter>
 #include <QTableView>
 #include <QTest>
@@ -14,6 +15,7 @@
 #include "control/EditorControl.h"
 #include "mavCycEd/ctlCycEd.h"
 #include "qt/EditorAccess.h"
+#include "qt/ValueListModel.h"
 
 namespace mavCycEd::test {
 namespace {
@@ -184,6 +186,70 @@ TEST_F(Control, ReadingCycleChangedDoesNotDisturbTheEdit) {
   edit(2);
   EXPECT_FALSE(control.property("CycleChanged").toBool());
   EXPECT_NE(editor(2), nullptr);
+}
+
+TEST_F(Control, MacroTextIsTakenWhenTheEditHasEnded) {
+  choose("Aspirate");
+  press("cmdInset");
+  edit(2);
+  QTest::keyClicks(editor(2), "700");
+  EXPECT_EQ(control.MacroString(), "//\r\nAspirate(1,)\r\n");
+  EXPECT_EQ(boxes->messages.size(), 1U) << "the end of the edit is told";
+  EXPECT_EQ(value(2), "700");
+}
+
+TEST_F(Control, MacroTextThatCannotBeWrittenIsEmptyAndTold) {
+  control.SetXMLStrings(catalogue, QStringLiteral("<CYCLE><VARIABLES/><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>Home"
+                                                  "</ATOMNAME><PARAMETERS><PARAMETER><PARAMNAME/><PARAMVALUE>1"
+                                                  "</PARAMVALUE></PARAMETER><PARAMETER><PARAMNAME>P</PARAMNAME>"
+                                                  "<PARAMVALUE>2</PARAMVALUE></PARAMETER></PARAMETERS></ATOM></ATOMS>"
+                                                  "</ATOMSEQUENCE></CYCLE>"));
+  const QSignalSpy errors(&control, &ctlCycEd::CycleEditorError);
+  EXPECT_EQ(control.MacroString(), "");
+  ASSERT_EQ(errors.count(), 1);
+  EXPECT_EQ(errors[0][4].toString(), "RetrieveMacroString ");
+}
+
+TEST_F(Control, MacroTextIsNoNewBaseline) {
+  choose("Home");
+  press("cmdInset");
+  EXPECT_NE(control.MacroString(), "");
+  EXPECT_TRUE(control.CycleChanged());
+}
+
+TEST_F(Control, InvalidValueIsNamedAndValidOnesLeaveTheMessage) {
+  choose("Aspirate");
+  QString message(QStringLiteral("as before"));
+  edit(2);
+  QTest::keyClicks(editor(2), "7");
+  EXPECT_TRUE(control.ParamValueControl(message));
+  EXPECT_EQ(message, "as before");
+  edit(1);
+  QTest::keyClicks(editor(1), "wenig µl");
+  EXPECT_FALSE(control.ParamValueControl(message));
+  EXPECT_EQ(message, "Parameter Volume(ul) has invalid value of wenig µl.");
+}
+
+TEST_F(Control, VariablesComeToTheirRowsAndGoAgain) {
+  control.SetXMLStrings(
+      QStringLiteral("<LATESTKAM><ATOMS><ATOM><AtomName>Take</AtomName><Param>Source;TRAY;None</Param>"
+                     "<Param>Count;1;9;1;1;None</Param></ATOM></ATOMS><OBJECTS><OBJECT><C>TRAY</C><N>Tray1</N>"
+                     "</OBJECT></OBJECTS></LATESTKAM>"),
+      QStringLiteral("<CYCLE><VARIABLES><VALUE>V ();1;1;1</VALUE></VARIABLES><ATOMSEQUENCE><ATOMS/></ATOMSEQUENCE>"
+                     "</CYCLE>"));
+  choose("Take");
+  const auto offered = [this](int row) {
+    return grid().model()->index(row - 1, 1).data(qt::ValueListModel::PickListRole).toStringList();
+  };
+  EXPECT_EQ(offered(1), QStringList({"Tray1", "V"}));
+  EXPECT_EQ(offered(2), QStringList()) << "a number is typed; its menu offers the variable";
+  EXPECT_EQ(editorOf(control).parameterRows().row(2).ExtraValues, "V");
+  EXPECT_EQ(value(1), "Tray1");
+  widget("lstVariables").setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+  press("cmdDel");
+  EXPECT_EQ(offered(1), QStringList({"Tray1"}));
+  EXPECT_EQ(editorOf(control).parameterRows().row(2).ExtraValues, "");
 }
 
 TEST_F(Control, NewCycleEndsTheEditFirst) {

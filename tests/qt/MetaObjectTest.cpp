@@ -29,6 +29,11 @@ TEST(MetaObject, HasTheMembersOfTheInterfaceAndNoOthers) {
   EXPECT_EQ(meta().enumeratorCount() - meta().enumeratorOffset(), 1);
 }
 
+TEST(MetaObject, ServicesForProgramsInCppAreNotReachedByName) {
+  EXPECT_EQ(meta().indexOfMethod("MacroString()"), -1);
+  EXPECT_EQ(meta().indexOfMethod("ParamValueControl(QString&)"), -1);
+}
+
 TEST(MetaObject, PropertiesAreReadOrWrittenOnly) {
   EXPECT_FALSE(property("Ignore_Hidden").isReadable());
   EXPECT_TRUE(property("Ignore_Hidden").isWritable());

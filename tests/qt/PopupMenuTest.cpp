@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "paramgrid/modControlArray.h"
 #include "platform/RunTimeError.h"
 #include "qt/QtPopupMenu.h"
 
@@ -83,6 +84,20 @@ TEST_F(PopupMenu, HandlerMayRemoveTheChosenItem) {
   menu.popUp();
   choose(1);
   EXPECT_EQ(menu.itemCount(), 1);
+}
+
+TEST_F(PopupMenu, ItemsGrowAndShrinkAsAnArray) {
+  using namespace modControlArray;
+  for (const int index : {1, 2, 4}) menu.createItem(index);
+  EXPECT_FALSE(isContinuous(menu));
+  EXPECT_EQ(firstFreePlace(menu), 3);
+  menu.createItem(3);
+  EXPECT_TRUE(isContinuous(menu));
+  EXPECT_EQ(firstFreePlace(menu), 5);
+  menu.removeItem(2);
+  deleteItems(menu);
+  EXPECT_THAT(shown(), ElementsAre("Default:5"));
+  EXPECT_EQ(firstFreePlace(menu), 1);
 }
 
 TEST_F(PopupMenu, AmpersandsAreThemselves) {

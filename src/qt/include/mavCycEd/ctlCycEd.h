@@ -20,7 +20,7 @@ class EditorControl;
 ///     editor->SetConfigXML(configuration);
 ///     editor->SetXMLStrings(catalogue, cycle);
 ///     ...
-///     if (editor->property("CycleChanged").toBool()) save(editor->RetrieveCycle());
+///     if (editor->CycleChanged()) save(editor->RetrieveCycle());
 ///
 /// All texts come and go as QString; a file's encoding is the host's affair, and an encoding named in an XML
 /// declaration is ignored. No exception leaves the control and no member returns an error code: failures are told by
@@ -73,6 +73,21 @@ class ctlCycEd : public QWidget {
   void setIgnore_Hidden(bool booNewValue);
   bool CycleChanged();
   void setResetCycle(const QString& strCycle);
+
+  // Services for C++ hosts; they are no members of the interface that can be reached by name.
+
+  /// The edited cycle as a macro text: the description, the variables and the atom lines. With "[PMA]" and a line end
+  /// (CR LF) in front it is a text that SetXMLStrings loads. It is empty when a line cannot be written, which
+  /// CycleEditorError tells. CycleChanged goes on comparing with what it did.
+  ///
+  /// A macro text carries less than a cycle document: the first line of the description, and the values of atom lines
+  /// with two parameters or more.
+  QString MacroString();
+
+  /// Whether every row of the parameter grid holds a valid value: a number, "On", "Off", or a value that is known for
+  /// the parameter; rows with a pick list count as valid. If not, message names the first row that does not; otherwise
+  /// it stays as it is. Ranges and steps are not looked at here: the control checks them itself while the user works.
+  bool ParamValueControl(QString& message);
 
  signals:
   /// A procedure of the control has failed.
