@@ -10,6 +10,9 @@
 namespace mavCycEd::win32 {
 namespace {
 
+// The compiler's constant: what the import library of oleacc has under the usual name is no identifier.
+const IID& idOfAccessible = __uuidof(IAccessible);
+
 // What the system says of a window, and what we know better. The window may go while somebody still holds this.
 class WindowDescription : public IAccessible {
  public:
@@ -21,7 +24,7 @@ class WindowDescription : public IAccessible {
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
     if (object == nullptr) return E_POINTER;
     *object = nullptr;
-    if (!IsEqualIID(id, IID_IUnknown) && !IsEqualIID(id, IID_IDispatch) && !IsEqualIID(id, IID_IAccessible)) {
+    if (!IsEqualIID(id, IID_IUnknown) && !IsEqualIID(id, IID_IDispatch) && !IsEqualIID(id, idOfAccessible)) {
       return E_NOINTERFACE;
     }
     *object = static_cast<IAccessible*>(this);
@@ -208,9 +211,9 @@ class WindowDescription : public IAccessible {
 
 LRESULT accessibleDescription(NativeWindow& window, WPARAM wParam) {
   void* system = nullptr;
-  if (FAILED(CreateStdAccessibleObject(window.handle(), OBJID_CLIENT, IID_IAccessible, &system))) return 0;
+  if (FAILED(CreateStdAccessibleObject(window.handle(), OBJID_CLIENT, idOfAccessible, &system))) return 0;
   auto* const description = new WindowDescription(window, window.watch(), static_cast<IAccessible*>(system));
-  const LRESULT result = LresultFromObject(IID_IAccessible, wParam, description);
+  const LRESULT result = LresultFromObject(idOfAccessible, wParam, description);
   description->Release();
   return result;
 }

@@ -42,8 +42,8 @@ void CellEdit::open(int row) {
                                                             .picked = [this](int item) { onPicked(item); },
                                                             .key = [this](WPARAM key) { return onKey(key); },
                                                             .left = [this] { onMaybeLeft(); }});
+  follow();  // an editor without a width would scroll its text away
   editor_->setText(before_);
-  follow();
   editor_->setFocus();
 }
 

@@ -128,14 +128,16 @@ void EditorScreen::layOutCycle(const RECT& place) {
   c.fraCyclePart.place(place);
   RECT rest = spaces.inside(place);
   const LONG height = rest.bottom - rest.top - 2 * spaces.gap;
+  const int button = widestOf({&c.cmdInset, &c.cmdReplace, &c.cmdDelete, &c.cmdIns, &c.cmdDel});
   const RECT description = cutTop(rest, height * 2 / 9, spaces.gap);
   c.fraDescription.place(description);
   c.txtCycleDescription.place(spaces.inside(description));
   const RECT variables = cutBottom(rest, height * 3 / 10, spaces.gap);
   c.fraVariables.place(variables);
-  placeListWithButtons(c.lstVariables, {&c.cmdIns, &c.cmdDel}, spaces.inside(variables), spaces);
+  placeListWithButtons(c.lstVariables, {&c.cmdIns, &c.cmdDel}, button, spaces.inside(variables), spaces);
   c.fraAtom.place(rest);
-  placeListWithButtons(c.lstAtomSequence, {&c.cmdInset, &c.cmdReplace, &c.cmdDelete}, spaces.inside(rest), spaces);
+  placeListWithButtons(c.lstAtomSequence, {&c.cmdInset, &c.cmdReplace, &c.cmdDelete}, button, spaces.inside(rest),
+                       spaces);
 }
 
 // What the mouse does by clicks and double clicks has its keys, each good only in its own list.

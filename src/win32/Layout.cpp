@@ -42,11 +42,15 @@ RECT cutRight(RECT& rest, int width, int gap) {
   return part;
 }
 
-void placeListWithButtons(NativeWindow& list, std::initializer_list<Win32Button*> buttons, RECT place,
-                          const Spaces& spaces) {
+int widestOf(std::initializer_list<const Win32Button*> buttons) {
   int widest = 0;
   for (const Win32Button* const button : buttons) widest = std::max(widest, button->neededWidth());
-  RECT column = cutRight(place, widest, spaces.gap);
+  return widest;
+}
+
+void placeListWithButtons(NativeWindow& list, std::initializer_list<Win32Button*> buttons, int buttonWidth, RECT place,
+                          const Spaces& spaces) {
+  RECT column = cutRight(place, buttonWidth, spaces.gap);
   list.place(place);
   for (Win32Button* const button : buttons) button->place(cutTop(column, spaces.buttonHeight, spaces.gap));
 }

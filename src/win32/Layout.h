@@ -27,8 +27,11 @@ RECT cutBottom(RECT& rest, int height, int gap);
 RECT cutLeft(RECT& rest, int width, int gap);
 RECT cutRight(RECT& rest, int width, int gap);
 
+/// How wide the widest of these buttons has to be.
+int widestOf(std::initializer_list<const Win32Button*> buttons);
+
 /// A list with its buttons to the right of it, from the top down.
-void placeListWithButtons(NativeWindow& list, std::initializer_list<Win32Button*> buttons, RECT place,
+void placeListWithButtons(NativeWindow& list, std::initializer_list<Win32Button*> buttons, int buttonWidth, RECT place,
                           const Spaces& spaces);
 
 }  // namespace mavCycEd::win32

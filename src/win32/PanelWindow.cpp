@@ -39,6 +39,9 @@ std::optional<LRESULT> PanelWindow::onMessage(UINT message, WPARAM wParam, LPARA
       FillRect(reinterpret_cast<HDC>(wParam), &client, brush());
       return 1;
     }
+    case WM_CTLCOLORLISTBOX:
+      if (IsWindowEnabled(reinterpret_cast<HWND>(lParam)) == FALSE) return colorOf(reinterpret_cast<HDC>(wParam));
+      return std::nullopt;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN: return colorOf(reinterpret_cast<HDC>(wParam));
     case WM_DPICHANGED_AFTERPARENT:

@@ -149,7 +149,10 @@ void Win32ComboBox::onDraw(const DRAWITEMSTRUCT& item) {
   } else if (index < items_.size()) {
     text = items_[index];
   }
-  FillRect(item.hDC, &item.rcItem, GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  FillRect(item.hDC, &item.rcItem,
+           GetSysColorBrush(isDisabled   ? COLOR_BTNFACE
+                            : isSelected ? COLOR_HIGHLIGHT
+                                         : COLOR_WINDOW));
   SetBkMode(item.hDC, TRANSPARENT);
   const int color = isDisabled ? COLOR_GRAYTEXT : isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT;
   SetTextColor(item.hDC, GetSysColor(color));

@@ -160,6 +160,7 @@ std::optional<LRESULT> Win32ListBox::onMessage(UINT message, WPARAM wParam, LPAR
       }
       return 0;
     case WM_LBUTTONUP: return 0;
+    case WM_ENABLE: InvalidateRect(handle(), nullptr, TRUE); return std::nullopt;
     case WM_MOUSEMOVE:
       if ((wParam & MK_LBUTTON) != 0) return 0;
       return std::nullopt;

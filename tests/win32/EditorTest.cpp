@@ -1,0 +1,177 @@
+// The whole editor in a host's window: keys, names, and windows that go.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "TestWindow.h"
+#include "win32/Text.h"
+// needs windows.h
+#include <objbase.h>
+#include <oleacc.h>
+
+namespace mavCycEd::win32::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class Win32EditorTest : public ::testing::Test {
+ protected:
+  Win32EditorTest() {
+    editor_.load();
+    editor_.windows().cboAtom.setText("MIX");
+    settle();
+  }
+  Win32ValueList& grid() { return editor_.windows().GrdAtom; }
+  HWND view() { return grid().view().handle(); }
+  HWND line() { return grid().view().cellEdit().line(); }
+  std::string value(int row) { return grid().cellText(1, row); }
+
+  HostWindow host_;
+  TestEditor editor_{host_.handle()};
+};
+
+TEST_F(Win32EditorTest, TypingOpensTheEditorAndReplacesTheValue) {
+  grid().setValue(1, 1, "7");
+  SetFocus(view());
+  type(view(), L"4");
+  ASSERT_NE(line(), nullptr);
+  type(line(), L"2");
+  EXPECT_EQ(value(1), "42");
+  key(line(), VK_RETURN);
+  EXPECT_EQ(grid().Row(), 2);
+  EXPECT_EQ(grid().view().cellEdit().row(), 2);
+  EXPECT_THAT(editor_.messages, IsEmpty());
+}
+
+TEST_F(Win32EditorTest, EscapeGivesTheValueBack) {
+  grid().setValue(1, 1, "7");
+  SetFocus(view());
+  type(view(), L"4");
+  key(line(), VK_ESCAPE);
+  EXPECT_EQ(value(1), "7");
+  EXPECT_FALSE(grid().isEditing());
+  EXPECT_EQ(GetFocus(), view());
+}
+
+TEST_F(Win32EditorTest, TabGoesFromValueToValueAndThenOn) {
+  grid().focusValue(1);
+  key(line(), VK_TAB);
+  EXPECT_EQ(grid().view().cellEdit().row(), 2);
+  key(line(), VK_TAB);
+  EXPECT_EQ(grid().view().cellEdit().row(), 3);
+  key(line(), VK_TAB);
+  EXPECT_FALSE(grid().isEditing());
+  EXPECT_NE(GetFocus(), view());
+}
+
+TEST_F(Win32EditorTest, AValueOutOfRangeIsToldWhenTheEditEnds) {
+  SetFocus(view());
+  type(view(), L"5");
+  type(line(), L"00");
+  EXPECT_THAT(editor_.messages, IsEmpty());
+  SetFocus(editor_.windows().txtCycleDescription.handle());
+  settle();
+  EXPECT_THAT(editor_.messages, ElementsAre("Volume out of range or invalid step increment."));
+}
+
+TEST_F(Win32EditorTest, ACharacterOfTwoHalvesIsTypedOnce) {
+  SetFocus(view());
+  SendMessageW(view(), WM_CHAR, 0xD83D, 1);
+  settle();
+  SendMessageW(line(), WM_CHAR, 0xDE00, 1);
+  settle();
+  EXPECT_EQ(value(1), "😀");
+}
+
+TEST_F(Win32EditorTest, AHostCallFinishesTheOpenEdit) {
+  SetFocus(view());
+  type(view(), L"8");
+  editor_.editor().settledControl().RetrieveCycle();
+  EXPECT_FALSE(grid().isEditing());
+  EXPECT_EQ(value(1), "8");
+}
+
+// The name that assistive technology gets for a window, or for one of its items.
+std::wstring accessibleText(HWND window, long item, bool value) {
+  void* object = nullptr;
+  const HRESULT found =
+      AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible), &object);
+  if (FAILED(found)) return L"(none)";
+  auto* const description = static_cast<IAccessible*>(object);
+  VARIANT child{};
+  child.vt = VT_I4;
+  child.lVal = item;
+  BSTR text = nullptr;
+  if (value) {
+    description->get_accValue(child, &text);
+  } else {
+    description->get_accName(child, &text);
+  }
+  const std::wstring result = text == nullptr ? L"" : text;
+  SysFreeString(text);
+  description->Release();
+  return result;
+}
+
+TEST_F(Win32EditorTest, HasNamesForAssistiveTechnology) {
+  ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));  // as hosts of controls do
+  grid().setValue(1, 1, "7");
+  EXPECT_EQ(accessibleText(view(), CHILDID_SELF, false), L"Atom parameters");
+  EXPECT_EQ(accessibleText(view(), 1, false), L"Volume(ul)");
+  EXPECT_EQ(accessibleText(view(), 1, true), L"7");
+  editor_.windows().lstAtomSequence.assign({"01 MIX", "02 WAIT"});
+  EXPECT_EQ(accessibleText(editor_.windows().lstAtomSequence.handle(), 2, false), L"02 WAIT");
+  EXPECT_EQ(accessibleText(editor_.windows().cmdInset.handle(), CHILDID_SELF, false), L"Insert atom");
+  CoUninitialize();
+}
+
+TEST_F(Win32EditorTest, OutlivesItsWindow) {
+  grid().focusValue(1);
+  DestroyWindow(host_.handle());
+  EXPECT_EQ(editor_.editor().screen().window(), nullptr);
+  editor_.load("<CYCLE><VERSION>03</VERSION></CYCLE>");
+  editor_.windows().cboAtom.setText("MIX");
+  grid().focusValue(2);
+  editor_.windows().txtCycleDescription.setText("still there");
+  EXPECT_EQ(editor_.windows().txtCycleDescription.text(), "still there");
+  EXPECT_EQ(grid().RowCount(), 4);
+  EXPECT_EQ(grid().Row(), 2);
+  EXPECT_THAT(editor_.errors, IsEmpty());
+}
+
+TEST_F(Win32EditorTest, MovesBetweenWindows) {
+  editor_.editor().screen().setParent(nullptr);
+  EXPECT_EQ(IsWindowVisible(editor_.editor().screen().window()), FALSE);
+  HostWindow other;
+  editor_.editor().screen().setParent(other.handle());
+  EXPECT_NE(IsWindowVisible(editor_.editor().screen().window()), FALSE);
+  SetFocus(view());
+  type(view(), L"3");
+  EXPECT_EQ(value(1), "3");
+}
+
+// All rounds of work with editors give back what they took from the system.
+TEST(Win32Handles, ComeBackToWhereTheyWere) {
+  const auto round = [] {
+    HostWindow host;
+    TestEditor editor(host.handle());
+    editor.load();
+    editor.windows().cboAtom.setText("MIX");
+    editor.windows().GrdAtom.focusValue(1);
+    editor.windows().GrdAtom.focusValue(3);
+    UpdateWindow(host.handle());
+    settle();
+  };
+  round();  // what the system keeps from the first time on
+  const auto count = [](DWORD kind) { return GetGuiResources(GetCurrentProcess(), kind); };
+  const DWORD gdi = count(GR_GDIOBJECTS);
+  const DWORD user = count(GR_USEROBJECTS);
+  constexpr int rounds = 30;
+  for (int i = 0; i < rounds; ++i) round();
+  EXPECT_LE(count(GR_GDIOBJECTS), gdi + 2);
+  EXPECT_LE(count(GR_USEROBJECTS), user + 2);
+}
+
+}  // namespace
+}  // namespace mavCycEd::win32::test

@@ -1,0 +1,93 @@
+#include "win32/Win32ListBox.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "TestWindow.h"
+#include "platform/RunTimeError.h"
+#include "win32/Dpi.h"
+
+namespace mavCycEd::win32::test {
+namespace {
+
+using ::testing::ElementsAre;
+
+class Win32ListBoxTest : public ::testing::Test {
+ protected:
+  Win32ListBoxTest() {
+    list_.setScreenFont(makeFont(systemFont(96)), 96);
+    list_.place({0, 0, 200, 200});
+    list_.setEvents({.Click = [this] { events_.push_back("click " + std::to_string(list_.index())); },
+                     .DblClick = [this] { events_.push_back("double " + std::to_string(list_.index())); }});
+  }
+  void press(UINT message, int index) {
+    RECT place{};
+    SendMessageW(list_.handle(), LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&place));
+    SendMessageW(list_.handle(), message, MK_LBUTTON, MAKELPARAM(3, place.top + 2));
+    settle();
+  }
+
+  HostWindow host_;
+  CommandGate gate_;
+  Win32ListBox list_{gate_, host_.handle(), nullptr};
+  std::vector<std::string> events_;
+};
+
+TEST_F(Win32ListBoxTest, EveryPressIsTold) {
+  list_.assign({"a", "b", "c"});
+  press(WM_LBUTTONDOWN, 1);
+  press(WM_LBUTTONDOWN, 1);
+  press(WM_LBUTTONDBLCLK, 1);
+  EXPECT_THAT(events_, ElementsAre("click 1", "click 1", "double 1"));
+}
+
+TEST_F(Win32ListBoxTest, APressBelowTheItemsSelectsNone) {
+  list_.assign({"a", "b"});
+  list_.setIndex(1);
+  SendMessageW(list_.handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 150));
+  EXPECT_THAT(events_, ElementsAre("click 1", "click -1"));
+  EXPECT_EQ(SendMessageW(list_.handle(), LB_GETCURSEL, 0, 0), LB_ERR);
+}
+
+TEST_F(Win32ListBoxTest, KeysMoveTheSelection) {
+  list_.assign({"alpha", "beta", "gamma"});
+  list_.setIndex(0);
+  key(list_.handle(), VK_DOWN);
+  key(list_.handle(), VK_END);
+  SendMessageW(list_.handle(), WM_CHAR, 'B', 1);
+  EXPECT_THAT(events_, ElementsAre("click 0", "click 1", "click 2", "click 1"));
+}
+
+TEST_F(Win32ListBoxTest, TheWindowKeepsNoTexts) {
+  constexpr int lines = 100'000;
+  list_.assign(std::vector<std::string>(lines, "01 MIX"));
+  EXPECT_EQ(SendMessageW(list_.handle(), LB_GETCOUNT, 0, 0), lines);
+  EXPECT_NE(GetWindowLongPtrW(list_.handle(), GWL_STYLE) & LBS_NODATA, 0);
+  list_.setIndex(lines - 1);
+  EXPECT_EQ(SendMessageW(list_.handle(), LB_GETCURSEL, 0, 0), lines - 1);
+  EXPECT_GT(SendMessageW(list_.handle(), LB_GETTOPINDEX, 0, 0), lines - 100);
+  list_.removeItem(0);
+  EXPECT_EQ(list_.index(), lines - 2);
+  EXPECT_EQ(SendMessageW(list_.handle(), LB_GETCURSEL, 0, 0), lines - 2);
+}
+
+TEST_F(Win32ListBoxTest, IndexesBeyondTheListAreErrors) {
+  list_.assign({"a"});
+  EXPECT_THROW(list_.itemText(1), RunTimeError);
+  EXPECT_THROW(list_.setIndex(1), RunTimeError);
+  EXPECT_THROW(list_.removeItem(-1), RunTimeError);
+}
+
+TEST_F(Win32ListBoxTest, WithoutItsWindowItKeepsItsItems) {
+  list_.assign({"a", "b"});
+  DestroyWindow(host_.handle());
+  EXPECT_EQ(list_.handle(), nullptr);
+  list_.addItem("c");
+  list_.setIndex(2);
+  list_.setItemFont({});
+  EXPECT_EQ(list_.itemText(2), "c");
+  EXPECT_EQ(list_.index(), 2);
+}
+
+}  // namespace
+}  // namespace mavCycEd::win32::test

@@ -1,0 +1,48 @@
+#include "win32/Services.h"
+
+#include <gtest/gtest.h>
+
+#include <regex>
+
+#include "win32/Text.h"
+
+namespace mavCycEd::win32 {
+namespace {
+
+bool isWestern() { return GetACP() == 1252; }
+
+TEST(Win32Text, ComesBackFromAWindowAsItWas) {
+  EXPECT_EQ(fromWide(toWide("Größe µl 😀")), "Größe µl 😀");
+  EXPECT_EQ(fromWide(toWide("")), "");
+  EXPECT_EQ(withoutAccessKey("a & b"), L"a && b");
+}
+
+TEST(AnsiCodePage, GivesTheBytesOfTheProcesssCodePage) {
+  if (!isWestern()) GTEST_SKIP() << "this machine's code page is another one";
+  EXPECT_EQ(AnsiCodePage().fromUtf8("Größe µ"),
+            "Gr\xF6\xDF"
+            "e \xB5");
+  EXPECT_EQ(AnsiCodePage().fromUtf8("\u03A9"), "O");  // the code page's own substitute
+}
+
+TEST(AnsiText, NamesWhatTheCodePageLacksByItsNumber) {
+  if (!isWestern()) GTEST_SKIP() << "this machine's code page is another one";
+  EXPECT_EQ(toAnsiNamingTheRest("5 µl \u03A9 \u0141 😀"), "5 \xB5l <U+03A9> <U+0141> <U+1F600>");
+  EXPECT_EQ(fromAnsi("\xB5l"), "µl");
+}
+
+TEST(Win32SystemMessage, KnowsTheSystemsErrors) {
+  const Win32SystemMessage system;
+  EXPECT_FALSE(system.formatMessage(ERROR_FILE_NOT_FOUND).empty());
+  EXPECT_EQ(system.formatMessage(0x2FFFFFFF), "");
+  SetLastError(ERROR_ACCESS_DENIED);
+  EXPECT_EQ(system.lastErrorCode(), ERROR_ACCESS_DENIED);
+}
+
+TEST(Win32Clock, GivesLocalTime) {
+  const std::regex timestamp("[0-9]{4}-[01][0-9]-[0-3][0-9]T[0-2][0-9]:[0-5][0-9]:[0-6][0-9]");
+  EXPECT_TRUE(std::regex_match(Win32Clock().localTimestamp(), timestamp));
+}
+
+}  // namespace
+}  // namespace mavCycEd::win32
