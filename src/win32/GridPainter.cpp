@@ -59,7 +59,7 @@ void GridPainter::paintTitles(HDC context) const {
 
 void GridPainter::paintRow(HDC context, int row) const {
   const bool isCurrent = row == rows_.rows.currentRow();
-  const int back = looks_.focused ? COLOR_HIGHLIGHT : COLOR_BTNFACE;
+  const int back = looks_.focused ? COLOR_HIGHLIGHT : COLOR_3DLIGHT;
   int front = isCurrent && looks_.focused ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT;
   if (!looks_.enabled) front = COLOR_GRAYTEXT;
   RECT whole = geometry_.cell(GridRows::keyColumn, row);

@@ -218,7 +218,7 @@ void Win32ListBox::onDraw(const DRAWITEMSTRUCT& item) {
   const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
   const bool isEnabled = isEnabledHere();
   const bool isActive = GetFocus() == handle();
-  const int back = !isSelected ? COLOR_WINDOW : isActive ? COLOR_HIGHLIGHT : COLOR_BTNFACE;
+  const int back = !isSelected ? COLOR_WINDOW : isActive ? COLOR_HIGHLIGHT : COLOR_3DLIGHT;
   const int front = !isEnabled ? COLOR_GRAYTEXT : isSelected && isActive ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT;
   FillRect(item.hDC, &item.rcItem, GetSysColorBrush(back));
   if (item.itemID < items_.size()) {

@@ -4,6 +4,7 @@
 
 #include <regex>
 
+#include "win32/MessageWindow.h"
 #include "win32/Text.h"
 
 namespace mavCycEd::win32 {
@@ -29,6 +30,41 @@ TEST(AnsiText, NamesWhatTheCodePageLacksByItsNumber) {
   if (!isWestern()) GTEST_SKIP() << "this machine's code page is another one";
   EXPECT_EQ(toAnsiNamingTheRest("5 µl \u03A9 \u0141 😀"), "5 \xB5l <U+03A9> <U+0141> <U+1F600>");
   EXPECT_EQ(fromAnsi("\xB5l"), "µl");
+}
+
+// Reads the message box that appears, and presses its button.
+class BoxReader : public MessageWindow {
+ public:
+  BoxReader() {
+    constexpr UINT soon = 50;
+    SetTimer(handle(), 1, soon, nullptr);
+  }
+  std::wstring caption;
+  std::wstring text;
+
+ protected:
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message != WM_TIMER) return MessageWindow::onMessage(message, wParam, lParam);
+    const HWND box = FindWindowW(L"#32770", L"Größe <U+0141>");
+    if (box == nullptr) return 0;
+    caption = textOf(box);
+    for (HWND part = GetWindow(box, GW_CHILD); part != nullptr; part = GetWindow(part, GW_HWNDNEXT)) {
+      const std::wstring shown = textOf(part);
+      if (shown.size() > text.size()) text = shown;
+    }
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    return 0;
+  }
+};
+
+TEST(Win32MessageBox, ShowsTheSystemsBox) {
+  if (!isWestern()) GTEST_SKIP() << "this machine's code page is another one";
+  const BoxReader reader;
+  Win32MessageBox box([] { return HWND{}; });
+  EXPECT_EQ(box.messageBox(0, "Mind the 5 µl and the \u03A9.", "Größe \u0141", platform::Exclamation),
+            platform::OkButton);
+  EXPECT_EQ(reader.caption, L"Größe <U+0141>");
+  EXPECT_EQ(reader.text, L"Mind the 5 µl and the <U+03A9>.");
 }
 
 TEST(Win32SystemMessage, KnowsTheSystemsErrors) {
