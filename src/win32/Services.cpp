@@ -17,8 +17,7 @@ int Win32MessageBox::messageBox(platform::WindowHandle owner, std::string_view m
   over = shownRootOf(over);
   const UINT alone = over == nullptr ? MB_TASKMODAL : 0;
   const ThemedScope themed;
-  return MessageBoxExA(over, toAnsiNamingTheRest(message).c_str(), toAnsiNamingTheRest(caption).c_str(),
-                       static_cast<UINT>(flags) | alone, 0);
+  return MessageBoxExA(over, toAnsi(message).c_str(), toAnsi(caption).c_str(), static_cast<UINT>(flags) | alone, 0);
 }
 
 std::string Win32SystemMessage::formatMessage(std::int32_t code) const {

@@ -25,8 +25,6 @@ std::string encoded(UINT codePage, DWORD flags, std::wstring_view text, BOOL* su
   return narrow;
 }
 
-bool isUtf8CodePage() { return GetACP() == CP_UTF8; }
-
 }  // namespace
 
 std::wstring toWide(std::string_view text) { return decoded(CP_UTF8, text); }
@@ -46,15 +44,15 @@ std::wstring textOf(HWND window) {
 }
 
 std::string toAnsi(std::string_view text) {
-  return isUtf8CodePage() ? std::string(text) : encoded(CP_ACP, 0, toWide(text), nullptr);
-}
+  if (GetACP() == CP_UTF8) return std::string(text);
+  BOOL substituted = FALSE;
+  std::string whole = encoded(CP_ACP, WC_NO_BEST_FIT_CHARS, toWide(text), &substituted);
+  if (substituted == FALSE) return whole;
 
-std::string toAnsiNamingTheRest(std::string_view text) {
-  if (isUtf8CodePage()) return std::string(text);
   std::string shown;
   while (!text.empty()) {
     const std::size_t size = text::firstCharacterSize(text);
-    BOOL substituted = FALSE;
+    substituted = FALSE;
     const std::string bytes = encoded(CP_ACP, WC_NO_BEST_FIT_CHARS, toWide(text.substr(0, size)), &substituted);
     if (substituted == FALSE) {
       shown += bytes;

@@ -19,13 +19,9 @@ std::wstring withoutAccessKey(std::string_view text);
 /// The text that a window shows.
 std::wstring textOf(HWND window);
 
-/// A UTF-8 text in the 8-bit code page of the process. A character that the code page lacks becomes the code page's
-/// substitute.
+/// A UTF-8 text in the 8-bit code page of the process. A character that the code page lacks is written as "<U+0141>",
+/// so that nobody takes a substitute for what was meant, and different texts stay different.
 std::string toAnsi(std::string_view text);
-
-/// The same for a person's eyes: a character that the code page lacks is written as "<U+0141>", so that nobody takes
-/// its substitute for what was meant.
-std::string toAnsiNamingTheRest(std::string_view text);
 
 /// A text in the code page of the process as UTF-8.
 std::string fromAnsi(std::string_view text);

@@ -23,12 +23,12 @@ TEST(AnsiCodePage, GivesTheBytesOfTheProcesssCodePage) {
   EXPECT_EQ(AnsiCodePage().fromUtf8("Größe µ"),
             "Gr\xF6\xDF"
             "e \xB5");
-  EXPECT_EQ(AnsiCodePage().fromUtf8("\u03A9"), "O");  // the code page's own substitute
 }
 
-TEST(AnsiText, NamesWhatTheCodePageLacksByItsNumber) {
+TEST(AnsiCodePage, NamesWhatItLacksByItsNumber) {
   if (!isWestern()) GTEST_SKIP() << "this machine's code page is another one";
-  EXPECT_EQ(toAnsiNamingTheRest("5 µl \u03A9 \u0141 😀"), "5 \xB5l <U+03A9> <U+0141> <U+1F600>");
+  EXPECT_EQ(AnsiCodePage().fromUtf8("5 µl \u03A9 \u0141 😀"), "5 \xB5l <U+03A9> <U+0141> <U+1F600>");
+  EXPECT_NE(AnsiCodePage().fromUtf8("\u03A9"), AnsiCodePage().fromUtf8("\u0416"));
   EXPECT_EQ(fromAnsi("\xB5l"), "µl");
 }
 
