@@ -47,9 +47,9 @@ class EditorControl::Implementation {
     guarded(errors_, "SetXMLStrings", [&] {
       screen_.fraCyclePart.setCaption("Cycle");
       const std::shared_ptr<platform::XmlDocument> catalogue = parsed(strLatestKam);
-      cycle_.working = parsed(strCycle);
-      if (!cycle_.reference) cycle_.reference = services_.xmlDocuments.createDocument();
-      cycle_.reference->loadXML(strCycle);
+      cycle_.working = readCycle(strCycle, services_.xmlDocuments);
+      const bool isDocument = !cycle_.working.isEmpty;
+      cycle_.reference.setLoaded(isDocument ? strCycle : std::string_view(), cycle_.working.facts);
       startNewCycle();
       catalogue_.setCatalogue(catalogue);
       screen_.cboAtom.clear();
@@ -73,7 +73,7 @@ class EditorControl::Implementation {
   std::string RetrieveCycle() { return handBack_.RetrieveCycle(); }
 
   void ResetCycle(std::string_view strCycle) {
-    guarded(errors_, "ResetCycle", [&] { cycle_.working = parsed(strCycle); });
+    guarded(errors_, "ResetCycle", [&] { cycle_.working = readCycle(strCycle, services_.xmlDocuments); });
   }
 
   std::string MacroString() { return macroText_.MacroString(); }
@@ -84,7 +84,6 @@ class EditorControl::Implementation {
 
  private:
   void start() {
-    cycle_.reference = services_.xmlDocuments.createDocument();
     setUpScreen(screen_);
     connect();
   }
@@ -133,8 +132,8 @@ class EditorControl::Implementation {
   // Nothing of the cycle before stays: no line, variable, description or grid row.
   void startNewCycle() {
     cycle_.atoms.Clear();
-    cycle_.displayIndent = 1;
-    cycle_.changed = false;
+    cycle_.display.clear();
+    cycle_.replaced();
     grid_.ready = false;
     paramGrid_.UpdateControls(screen_.lstVariables, screen_.lstAtomSequence, screen_.txtCycleDescription);
     grid_.ready = true;
@@ -149,9 +148,9 @@ class EditorControl::Implementation {
 
   void loadCycle(std::string_view strCycle) {
     constexpr std::size_t tooShortForMacro = 3;
-    if (cycle_.working->childNodes().length() > 0) {
+    if (!cycle_.working.isEmpty) {
       loader_.FillCycle();
-      cycle_.changed = false;
+      cycle_.replaced();
     } else if (text::hasMoreCharactersThan(strCycle, tooShortForMacro) && macroText_.IsAnMacro(strCycle)) {
       macroText_.FillMacro(strCycle);
     }
@@ -166,7 +165,7 @@ class EditorControl::Implementation {
   }
 
   void txtCycleDescription_Change() {
-    guarded(errors_, "txtCycleDescription_Change", [this] { cycle_.changed = true; });
+    guarded(errors_, "txtCycleDescription_Change", [this] { cycle_.edited(); });
   }
 
   void tmrUpdateGrid_Timer() {
@@ -196,7 +195,7 @@ class EditorControl::Implementation {
   OfferedValues offeredValues_{screen_.GrdAtom, screen_.mnuSubParam, grid_, catalogue_, errors_};
   ExtraValues extraValues_{screen_.GrdAtom, grid_, screen_.lstVariables, errors_};
   CycleWriter writer_{cycle_, cycleScreen_, services_.xmlDocuments, services_.clock, errors_};
-  HandBack handBack_{cycle_, writer_, services_.codePage, errors_};
+  HandBack handBack_{cycle_, writer_, services_.xmlDocuments, services_.codePage, errors_};
   CycleLoader loader_{cycle_, cycleScreen_, screen_.cboAtom, screen_.GrdAtom, errors_};
   AtomSequenceEditing sequenceEditing_{
       cycle_,

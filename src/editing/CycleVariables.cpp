@@ -78,7 +78,7 @@ void CycleVariables::cmdDel_Click() {
     if (index < 0) return;
     const std::string entry = surroundings_.lstVariables.itemText(index);
     if (tellUses(entry)) return;
-    cycle_.changed = true;
+    cycle_.edited();
     extraValues_.Delete_Extra_Udons(entry);
     surroundings_.lstVariables.removeItem(index);
     surroundings_.lstVariables.setIndex(index - 1);
@@ -88,7 +88,7 @@ void CycleVariables::cmdDel_Click() {
 void CycleVariables::cmdIns_Click() {
   guarded(errors_, "cmdIns_Click", [this] {
     if (surroundings_.cboAtom.text().empty()) return;
-    cycle_.changed = true;
+    cycle_.edited();
     const int index = surroundings_.lstVariables.index();
     exchange_ = DialogExchange();
     runDialog(false);
@@ -115,7 +115,7 @@ void CycleVariables::lstVariables_DblClick() {
     if (index < 0) return;
     const std::string entry = surroundings_.lstVariables.itemText(index);
     const bool inUse = tellUses(entry);
-    cycle_.changed = true;
+    cycle_.edited();
     exchange_ = {true, entry, {}};
     runDialog(inUse);
     // Also after a cancelled dialog: the edited variable is offered again when the grid is next refilled.
