@@ -135,6 +135,14 @@ void addEditing(int lines) {
            .yardstick = bare});
 }
 
+std::function<double()> loadingAMacro(const std::function<Window&()>& windowFor, int lines) {
+  return [windowFor, lines] {
+    Window& window = windowFor();
+    const QString macro = qt::toQt(macroOf(lines));
+    return secondsOf([&] { window.load(macro); });
+  };
+}
+
 std::function<double()> selecting(const std::function<Window&()>& window) {
   return [window, toAndFro = false]() mutable {
     Window& shown = window();
@@ -149,6 +157,13 @@ void addWindowWorks() {
   for (const int lines : sizes) addLoading(lines);
   for (const int lines : sizes) addEditing(lines);
   const auto shortest = windowWith(sizes[0]);
+  for (const int lines : {1000, 10000}) {
+    compare({.work = "loading a macro text, Qt edition, 2n lines against n",
+             .lines = lines,
+             .target = 2.3,
+             .ours = loadingAMacro(shortest, 2 * lines),
+             .yardstick = loadingAMacro(shortest, lines)});
+  }
   for (const int lines : sizes) {
     if (lines == sizes[0]) continue;
     compare({.work = "selecting another line, Qt edition, until painted, against 1,000 lines",

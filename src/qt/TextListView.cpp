@@ -1,5 +1,6 @@
 #include "qt/TextListView.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -41,6 +42,7 @@ TextListView::TextListView(TextListModel* model, QWidget* parent) : QListView(pa
   setSelectionMode(SingleSelection);
   setTextElideMode(Qt::ElideNone);
   setHorizontalScrollMode(ScrollPerPixel);
+  setAutoScroll(false);  // bringIntoView() does it, once for any number of changes
   connect(model, &TextListModel::dataChanged, this, [this] { scheduleDelayedItemsLayout(); });
 }
 
@@ -56,7 +58,38 @@ void TextListView::select(int row) {
   }
   const QModelIndex index = model()->index(row, 0);
   selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-  scrollTo(index);
+  bringIntoView(index);
+}
+
+// Qt's own views repaint the items that changed, and to know where they are they lay out all items, each time. It is
+// enough to paint once, when all is done.
+void TextListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  if (QAccessible::isActive()) QListView::currentChanged(current, previous);
+  viewport()->update();
+  if (current.isValid()) bringIntoView(current);
+}
+
+void TextListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  if (QAccessible::isActive()) QListView::selectionChanged(selected, deselected);
+  viewport()->update();
+}
+
+void TextListView::showEvent(QShowEvent* event) {
+  QListView::showEvent(event);
+  if (currentIndex().isValid()) bringIntoView(currentIndex());
+}
+
+// Scrolling lays the whole list out: it waits until whatever is going on has ended.
+void TextListView::bringIntoView(const QModelIndex& index) {
+  wanted_ = index;
+  if (std::exchange(scrollWaits_, true)) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        scrollWaits_ = false;
+        if (wanted_.isValid()) scrollTo(wanted_);
+      },
+      Qt::QueuedConnection);
 }
 
 QSize TextListView::sizeOf(int characters, int lines) const {
