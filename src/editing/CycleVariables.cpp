@@ -35,6 +35,18 @@ std::string_view shownParameterName(std::string_view segment) {
   return text::withoutLastCharacter(segment.substr(0, segment.find(';')));
 }
 
+/// Notes which dialog is shown while it is.
+class Shown {
+ public:
+  Shown(VariableDialogScreen*& place, VariableDialogScreen& screen) : place_(place) { place_ = &screen; }
+  ~Shown() { place_ = nullptr; }
+  Shown(const Shown&) = delete;
+  Shown& operator=(const Shown&) = delete;
+
+ private:
+  VariableDialogScreen*& place_;
+};
+
 }  // namespace
 
 std::string CycleVariables::variableInUse(std::string& variable) {
@@ -132,12 +144,19 @@ void CycleVariables::lstVariables_DblClick() {
   });
 }
 
+void CycleVariables::end() {
+  ended_ = true;
+  if (open_ != nullptr) open_->frmparams().close();
+}
+
 void CycleVariables::runDialog(bool nameLocked) {
+  if (ended_) return;
   const std::unique_ptr<VariableDialogScreen> screen = surroundings_.dialogs.createVariableDialog();
   frmparams dialog(*screen, exchange_, surroundings_.catalogue, surroundings_.provider, surroundings_.messages,
                    errors_);
   dialog.Form_Load();
   if (nameLocked) dialog.lockName();
+  const Shown shown(open_, *screen);
   dialog.show();
 }
 
