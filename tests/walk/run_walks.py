@@ -91,19 +91,26 @@ def shrunk(editions, scenario, kind):
         failure = editions.failure_of(trial)
         return failure is not None and failure.kind == kind
 
-    size = max(len(lines) // 2, 1)
-    while True:
-        before = len(lines)
+    def leave_out(size):
+        """Leaves out what can be left out, `size` steps at a time; steps that belong together go together."""
+        nonlocal lines
         at = 0
         while at < len(lines):
             candidate = lines[:at] + lines[at + size:]
             if fails(candidate):
                 lines = candidate
             else:
-                at += size
-        if size == 1 and len(lines) == before:
-            break
-        size = max(size // 2, 1)
+                at += size if size > 4 else 1
+
+    size = len(lines) // 2
+    while size > 4:
+        leave_out(size)
+        size //= 2
+    before = None
+    while before != len(lines):
+        before = len(lines)
+        for size in (1, 2, 3, 4):
+            leave_out(size)
     for rest in (trial, trial.with_suffix(".again")):
         rest.unlink(missing_ok=True)
     return lines + end
