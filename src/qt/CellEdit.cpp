@@ -153,7 +153,7 @@ void CellEdit::close() {
   lineOf(*editor).disconnect(this);
   editor->disconnect(this);
   view_.removeEditor(editor);
-  view_.showCurrentRow();
+  view_.markCurrentRow();
 }
 
 void CellEdit::leave(Step step) {

@@ -50,13 +50,19 @@ int TextListView::selectedRow() const {
 }
 
 void TextListView::select(int row) {
+  selectInPlace(row);
+  if (row >= 0) scrollTo(model()->index(row, 0));
+}
+
+// An item that is only partly in view stays where it is: a double click would end on its neighbour.
+void TextListView::selectInPlace(int row) {
+  setAutoScroll(false);
   if (row < 0) {
     selectionModel()->clear();
-    return;
+  } else {
+    selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::ClearAndSelect);
   }
-  const QModelIndex index = model()->index(row, 0);
-  selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-  scrollTo(index);
+  setAutoScroll(true);
 }
 
 QSize TextListView::sizeOf(int characters, int lines) const {
@@ -88,7 +94,7 @@ void TextListView::mousePressEvent(QMouseEvent* event) {
     return;
   }
   event->accept();
-  select(indexAt(event->position().toPoint()).row());
+  selectInPlace(indexAt(event->position().toPoint()).row());
   emit chosen();
 }
 
@@ -105,7 +111,7 @@ void TextListView::mouseDoubleClickEvent(QMouseEvent* event) {
   const int row = indexAt(event->position().toPoint()).row();
   const QPointer<TextListView> self(this);
   if (row != selectedRow()) {
-    select(row);
+    selectInPlace(row);
     emit chosen();
   }
   if (self && row >= 0) emit doubleClickedItem();

@@ -41,6 +41,7 @@ class TextListView : public QListView {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
+  void selectInPlace(int row);
   QSize sizeOf(int characters, int lines) const;
 };
 

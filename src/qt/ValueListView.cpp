@@ -52,6 +52,7 @@ ValueListView::ValueListView(ValueListModel* model, QWidget* parent)
   setWordWrap(false);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setCornerButtonEnabled(false);
+  setAutoScroll(false);  // rows come into view when the current one changes, never under a pointer that presses
   setMouseTracking(true);
   setAttribute(Qt::WA_InputMethodEnabled);
   setUpHeaders();
@@ -114,8 +115,14 @@ QSize ValueListView::minimumSizeHint() const {
           horizontalHeader()->sizeHint().height() + verticalHeader()->defaultSectionSize() * 3 + frame};
 }
 
-// While a value is edited its cell stays the view's current one: another cell would close the editor.
 void ValueListView::showCurrentRow() {
+  markCurrentRow();
+  if (model_.rows().currentRow() == 0) return;
+  scrollTo(model_.cellIndex(ValueListModel::valueColumn, model_.rows().currentRow()));
+}
+
+// While a value is edited its cell stays the view's current one: another cell would close the editor.
+void ValueListView::markCurrentRow() {
   const QScopedValueRollback quiet(byCode_, true);
   const int row = model_.rows().currentRow();
   if (row == 0) {
@@ -129,7 +136,6 @@ void ValueListView::showCurrentRow() {
   } else {
     selectionModel()->setCurrentIndex(value, whole);
   }
-  scrollTo(value);
 }
 
 void ValueListView::chooseRow(int row) {

@@ -39,7 +39,8 @@ class ValueListView : public QTableView {
   CellEdit& cellEdit() { return *cellEdit_; }
   const CellEdit& cellEdit() const { return *cellEdit_; }
 
-  /// Selects the current row of the rows and brings it into view.
+  /// Selects the current row of the rows, and brings it into view.
+  void markCurrentRow();
   void showCurrentRow();
   /// The user makes a parameter row current; told when it was not.
   void chooseRow(int row);

@@ -129,6 +129,19 @@ TEST_F(GridMouse, ScrolledRowsKeepTheirUnits) {
   EXPECT_THAT(told(), ElementsAre("MouseMove 0,1140"));
 }
 
+TEST_F(GridMouse, PressIsOnTheRowUnderThePointerAlsoWhenTheEditedOneIsOutOfView) {
+  for (int row = 4; row <= 60; ++row) grid.InsertRow("Key" + std::to_string(row), "", true);
+  logMouse = false;
+  for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+    grid.focusValue(1);
+    view().scrollToBottom();
+    told();
+    click(1, 60, button);
+    EXPECT_THAT(told(), ElementsAre("SelectionChange 60"));
+    EXPECT_EQ(editedRow(), button == Qt::LeftButton ? 60 : 0);
+  }
+}
+
 TEST_F(GridMouse, ToolTipIsTheWholeGrids) {
   grid.setToolTipText("Range: 1 to 10");
   EXPECT_EQ(view().toolTip(), "Range: 1 to 10");
