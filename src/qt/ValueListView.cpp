@@ -68,32 +68,37 @@ void ValueListView::setUpHeaders() {
   QHeaderView& titles = *horizontalHeader();
   titles.setHighlightSections(false);
   titles.setSectionsClickable(false);
-  titles.setStretchLastSection(true);
   titles.setMinimumHeight(lowestRow);
   titles.viewport()->setMouseTracking(true);
   titles.viewport()->installEventFilter(this);
   connect(&titles, &QHeaderView::sectionResized, this,
           [this](int column, int, int width) { onColumnResized(column, width); });
-  fitRowHeight();
+  fitToFont();
 }
 
-// A row is as high as an editor in it needs.
-void ValueListView::fitRowHeight() {
+// A row is as high as an editor in it needs. A column may get narrow: the header's own limit is the widest character
+// that the font has, and in many fonts that one is wider than a short text.
+void ValueListView::fitToFont() {
   constexpr int margins = 8;
+  constexpr int characters = 4;
+  horizontalHeader()->setMinimumSectionSize(fontMetrics().averageCharWidth() * characters);
   verticalHeader()->setDefaultSectionSize(std::max(lowestRow, fontMetrics().height() + margins));
 }
 
-// Both columns are in view, always.
+// Both columns are in view, always; a last section that the header stretches would not get narrow again.
 void ValueListView::fitColumns() {
+  const QScopedValueRollback fitting(fitting_, true);
   const int width = viewport()->width();
   const int narrowest = std::min(horizontalHeader()->minimumSectionSize(), width / 2);
-  setColumnWidth(0, std::clamp(static_cast<int>(width * keyShare_), narrowest, width - narrowest));
+  const int keyWidth = std::clamp(static_cast<int>(width * keyShare_), narrowest, width - narrowest);
+  setColumnWidth(ValueListModel::keyColumn, keyWidth);
+  setColumnWidth(ValueListModel::valueColumn, width - keyWidth);
 }
 
+// The user drags the border between the columns, or the end of the last one.
 void ValueListView::onColumnResized(int column, int width) {
-  const bool dragged = column == 0 && (QGuiApplication::mouseButtons() & Qt::LeftButton) != 0;
-  if (!dragged || viewport()->width() <= 0) return;
-  keyShare_ = static_cast<double>(width) / viewport()->width();
+  if (fitting_ || (QGuiApplication::mouseButtons() & Qt::LeftButton) == 0 || viewport()->width() <= 0) return;
+  if (column == ValueListModel::keyColumn) keyShare_ = static_cast<double>(width) / viewport()->width();
   fitColumns();
 }
 
@@ -351,7 +356,7 @@ bool ValueListView::viewportEvent(QEvent* event) {
 
 void ValueListView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) fitRowHeight();
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) fitToFont();
 }
 
 void ValueListView::resizeEvent(QResizeEvent* event) {

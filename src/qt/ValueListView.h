@@ -77,7 +77,7 @@ class ValueListView : public QTableView {
 
  private:
   void setUpHeaders();
-  void fitRowHeight();
+  void fitToFont();
   void fitColumns();
   void onColumnResized(int column, int width);
   int rowBy(int key) const;
@@ -93,6 +93,7 @@ class ValueListView : public QTableView {
   QPoint menuPlace_;
   double keyShare_ = 0.55;  // of the key column in the width
   bool byCode_ = false;
+  bool fitting_ = false;     // the widths of the columns are being set
   bool listWanted_ = false;  // the mouse button went down on an arrow
 };
 
