@@ -111,6 +111,8 @@ void CellEdit::onPicked(int item) {
   close();
   model_.setCell(ValueListModel::valueColumn, pickedRow, value);
   emit picked(pickedRow);
+  // The user is still in this cell, unless the answer to the pick led elsewhere.
+  if (self && view_.hasFocus() && model_.rows().currentRow() == pickedRow) view_.editCurrentRow();
 }
 
 void CellEdit::end() {

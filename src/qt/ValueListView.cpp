@@ -116,8 +116,8 @@ QSize ValueListView::sizeHint() const {
 
 QSize ValueListView::minimumSizeHint() const {
   const int frame = 2 * frameWidth();
-  return {fontMetrics().averageCharWidth() * 24 + frame,
-          horizontalHeader()->sizeHint().height() + verticalHeader()->defaultSectionSize() * 3 + frame};
+  const int titles = std::max(horizontalHeader()->sizeHint().height(), horizontalHeader()->minimumHeight());
+  return {fontMetrics().averageCharWidth() * 24 + frame, titles + verticalHeader()->defaultSectionSize() * 3 + frame};
 }
 
 void ValueListView::showCurrentRow() {
@@ -193,9 +193,15 @@ bool ValueListView::moveBy(int key) {
   }
 }
 
+bool ValueListView::opensEditor(const QKeyEvent& key) const {
+  return (isPlain(key) && key.key() == Qt::Key_F2) || (enterOpens_ && isEnter(key));
+}
+
 void ValueListView::keyPressEvent(QKeyEvent* event) {
   event->accept();
-  if (cellEdit_->isOpen()) {  // what the editor does not want is not for the rows either
+  if (isMenuKey(*event)) {
+    askForMenuOfCurrentRow();
+  } else if (cellEdit_->isOpen()) {  // what the editor does not want is not for the rows either
     event->ignore();
   } else if (event->matches(QKeySequence::Copy)) {
     QGuiApplication::clipboard()->setText(currentIndex().data().toString());
@@ -228,7 +234,7 @@ void ValueListView::inputMethodEvent(QInputMethodEvent* event) {
 bool ValueListView::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (isListKey(key) || beginsEdit(key) || opensEditor(key)) {
+    if (isListKey(key) || isMenuKey(key) || beginsEdit(key) || opensEditor(key)) {
       event->accept();
       return true;
     }
@@ -297,17 +303,26 @@ void ValueListView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(
 
 void ValueListView::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
+  if (event->reason() != QContextMenuEvent::Mouse) {
+    askForMenuOfCurrentRow();
+    return;
+  }
   const QPointer<ValueListView> self(this);
   cellEdit_->end();
   if (!self) return;
-  if (event->reason() == QContextMenuEvent::Mouse) {
-    const QModelIndex index = indexAt(event->pos());
-    askForMenu(index.isValid() ? ValueListModel::rowOf(index) : 0, units_.ofCells(event->pos()), event->globalPos());
-    return;
-  }
+  const QModelIndex index = indexAt(event->pos());
+  askForMenu(index.isValid() ? ValueListModel::rowOf(index) : 0, units_.ofCells(event->pos()), event->globalPos());
+}
+
+void ValueListView::askForMenuOfCurrentRow() {
+  const QPointer<ValueListView> self(this);
+  cellEdit_->end();
+  if (!self) return;
   const int row = model_.rows().currentRow();
   if (row == 0) return;
-  const QPoint middle = visualRect(model_.cellIndex(ValueListModel::valueColumn, row)).center();
+  const QModelIndex value = model_.cellIndex(ValueListModel::valueColumn, row);
+  scrollTo(value);
+  const QPoint middle = visualRect(value).center();
   askForMenu(row, units_.ofCells(middle), viewport()->mapToGlobal(middle));
 }
 

@@ -108,6 +108,29 @@ TEST_F(GridMouse, MenuKeyAsksAtTheCurrentValue) {
   EXPECT_EQ(y / 19, 2);
 }
 
+TEST_F(GridMouse, ShiftF10AsksLikeTheMenuKey) {
+  view().setFocus();
+  key(Qt::Key_F10, Qt::ShiftModifier);
+  ASSERT_EQ(log.size(), 1U);
+  EXPECT_EQ(log[0].substr(0, 12), "ContextPopup");
+  told();
+  click(1, 2);
+  type("Tr");
+  told();
+  key(Qt::Key_F10, Qt::ShiftModifier);
+  ASSERT_EQ(log.size(), 2U);
+  EXPECT_EQ(log[0], "EndOfEdit 1 2 Source Tr");
+  EXPECT_EQ(log[1].substr(0, 12), "ContextPopup");
+}
+
+TEST_F(GridMouse, MenuKeyBringsTheCurrentValueIntoView) {
+  for (int row = 4; row <= 60; ++row) grid.InsertRow("Key" + std::to_string(row), "", true);
+  grid.setRow(1);
+  view().scrollToBottom();
+  askForMenu(QContextMenuEvent::Keyboard, {});
+  EXPECT_TRUE(view().viewport()->rect().contains(view().viewport()->mapFromGlobal(view().menuPlace())));
+}
+
 TEST_F(GridMouse, RightClickOnAnOpenEditorAsksForTheMenuOfTheGrid) {
   logMouse = false;
   click(1, 1);

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QHeaderView>
+#include <QScrollBar>
 
 #include "TestGrid.h"
 
@@ -71,6 +72,17 @@ TEST_F(GridRows, BothColumnsAreInViewHoweverNarrowTheGrid) {
     EXPECT_EQ(view().horizontalHeader()->length(), view().viewport()->width()) << width;
     EXPECT_GE(view().columnWidth(0), view().viewport()->width() / 3) << width;
     EXPECT_GE(view().columnWidth(1), view().viewport()->width() / 3) << width;
+  }
+}
+
+TEST_F(GridRows, ThreeRowsAreInViewHoweverLowTheGrid) {
+  for (const int points : {6, 9, 30}) {
+    QFont font = view().font();
+    font.setPointSize(points);
+    view().setFont(font);
+    view().setFixedHeight(view().minimumSizeHint().height());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(view().verticalScrollBar()->isVisible()) << points;
   }
 }
 
