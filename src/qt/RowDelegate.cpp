@@ -15,7 +15,7 @@ QColor between(const QColor& from, const QColor& to, float share) {
 
 // The colours of a selected row while the keyboard is elsewhere.
 void mute(QPalette& palette) {
-  constexpr float share = 0.3F;
+  constexpr float share = 0.4F;
   const QColor muted = between(palette.color(QPalette::Base), palette.color(QPalette::Highlight), share);
   palette.setColor(QPalette::Highlight, muted);
   palette.setBrush(QPalette::HighlightedText, palette.text());
