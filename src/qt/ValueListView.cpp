@@ -290,7 +290,11 @@ void ValueListView::mousePressEvent(QMouseEvent* event) {
 
 void ValueListView::mouseMoveEvent(QMouseEvent* event) {
   event->accept();
-  const QPoint units = units_.ofCells(event->position().toPoint());
+  pointAt(event->position().toPoint());
+}
+
+void ValueListView::pointAt(const QPoint& place) {
+  const QPoint units = units_.ofCells(place);
   emit mouseMoved(units.x(), units.y());
 }
 

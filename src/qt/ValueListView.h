@@ -50,6 +50,8 @@ class ValueListView : public QTableView {
   void setEnterOpens(bool opens) { enterOpens_ = opens; }
   /// Opens the editor of the current row's value, if there is a row.
   void editCurrentRow();
+  /// The pointer is at this place of the viewport; what covers the cells there says so.
+  void pointAt(const QPoint& place);
   /// Closes the editor of an edit; the focus stays in the grid if it was in the editor.
   void removeEditor(QWidget* editor) { closeEditor(editor, QAbstractItemDelegate::NoHint); }
   /// Where the pop-up menu was last asked for, in global coordinates.

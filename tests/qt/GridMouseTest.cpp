@@ -57,6 +57,25 @@ TEST_F(GridMouse, ValueColumnBeginsAt151WhereverTheDividerStands) {
   }
 }
 
+TEST_F(GridMouse, PointerOverAnOpenEditorIsOverItsCell) {
+  for (const int row : {1, 2}) {
+    click(1, row);
+    told();
+    QWidget& line = qt::lineOf(*editor(row));
+    const QPoint place = line.rect().center();
+    QMouseEvent event(QEvent::MouseMove, place, line.mapToGlobal(place), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&line, &event);
+    EXPECT_TRUE(line.hasMouseTracking());
+    const std::vector<std::string> moves = told();
+    ASSERT_EQ(moves.size(), 1U);
+    int x = 0;
+    int y = 0;
+    ASSERT_EQ(std::sscanf(moves[0].c_str(), "MouseMove %d,%d", &x, &y), 2);
+    EXPECT_GE(x, 151);
+    EXPECT_EQ(y / 19, row);
+  }
+}
+
 TEST_F(GridMouse, RowsGoOnBelowTheLastOne) {
   const QPoint below(view().columnWidth(0), bottomOf(3));
   move(below);
