@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include "qt/RowDelegate.h"
@@ -52,13 +53,18 @@ int TextListView::selectedRow() const {
 }
 
 void TextListView::select(int row) {
+  selectInPlace(row);
+  if (row >= 0) bringIntoView(model()->index(row, 0));
+}
+
+// An item that is only partly in view stays where it is: a double click would end on its neighbour.
+void TextListView::selectInPlace(int row) {
+  const QScopedValueRollback<bool> inPlace(inPlace_, true);
   if (row < 0) {
     selectionModel()->clear();
-    return;
+  } else {
+    selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::ClearAndSelect);
   }
-  const QModelIndex index = model()->index(row, 0);
-  selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-  bringIntoView(index);
 }
 
 // Qt's own views repaint the items that changed, and to know where they are they lay out all items, each time. It is
@@ -66,7 +72,7 @@ void TextListView::select(int row) {
 void TextListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   if (QAccessible::isActive()) QListView::currentChanged(current, previous);
   viewport()->update();
-  if (current.isValid()) bringIntoView(current);
+  if (current.isValid() && !inPlace_) bringIntoView(current);
 }
 
 void TextListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
@@ -121,7 +127,7 @@ void TextListView::mousePressEvent(QMouseEvent* event) {
     return;
   }
   event->accept();
-  select(indexAt(event->position().toPoint()).row());
+  selectInPlace(indexAt(event->position().toPoint()).row());
   emit chosen();
 }
 
@@ -138,7 +144,7 @@ void TextListView::mouseDoubleClickEvent(QMouseEvent* event) {
   const int row = indexAt(event->position().toPoint()).row();
   const QPointer<TextListView> self(this);
   if (row != selectedRow()) {
-    select(row);
+    selectInPlace(row);
     emit chosen();
   }
   if (self && row >= 0) emit doubleClickedItem();

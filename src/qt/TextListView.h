@@ -46,10 +46,12 @@ class TextListView : public QListView {
 
  private:
   void bringIntoView(const QModelIndex& index);
+  void selectInPlace(int row);
   QSize sizeOf(int characters, int lines) const;
 
   QPersistentModelIndex wanted_;  // the item to be brought into view
   bool scrollWaits_ = false;
+  bool inPlace_ = false;  // what becomes current is not brought into view
 };
 
 }  // namespace mavCycEd::qt

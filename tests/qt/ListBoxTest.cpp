@@ -72,6 +72,18 @@ TEST_F(ListBox, DoubleClickBelowTheItemsIsNone) {
   EXPECT_THAT(told(), ElementsAre("Click -1"));
 }
 
+TEST_F(ListBox, DoubleClickOnAnItemPartlyInViewIsOnThatItem) {
+  list.assign(std::vector<std::string>(50, "WAIT"));
+  const QRect second = view().visualRect(view().model()->index(1, 0));
+  const int frame = 2 * view().frameWidth();
+  view().resize(200, second.center().y() + frame);
+  const QPoint place(5, view().viewport()->height() - 2);
+  ASSERT_TRUE(second.contains(place));
+  QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, place);
+  EXPECT_THAT(told(), ElementsAre("Click 1", "DblClick 1"));
+}
+
 TEST_F(ListBox, DraggingChangesNothing) {
   QTest::mousePress(view().viewport(), Qt::LeftButton, {}, placeOf(0));
   QMouseEvent drag(QEvent::MouseMove, placeOf(2), view().viewport()->mapToGlobal(placeOf(2)), Qt::NoButton,
