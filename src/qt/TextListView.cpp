@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
+#include "qt/GridKeys.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
@@ -76,7 +77,7 @@ QSize TextListView::minimumSizeHint() const { return sizeOf(12, 3); }
 bool TextListView::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (key.modifiers() == Qt::NoModifier && (key.key() == Qt::Key_Delete || isReturn(key))) {
+    if (isPlain(key) && (key.key() == Qt::Key_Delete || isReturn(key))) {
       event->accept();
       return true;
     }
@@ -121,7 +122,7 @@ void TextListView::focusInEvent(QFocusEvent* event) {
 }
 
 void TextListView::keyPressEvent(QKeyEvent* event) {
-  if (event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Delete) {
+  if (isPlain(*event) && event->key() == Qt::Key_Delete) {
     event->accept();
     emit deletePressed();
     return;
@@ -131,7 +132,7 @@ void TextListView::keyPressEvent(QKeyEvent* event) {
     emit returnPressed();
     return;
   }
-  const bool again = event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Space;
+  const bool again = isPlain(*event) && event->key() == Qt::Key_Space;
   if (again) {
     event->accept();
     select(currentIndex().row());
