@@ -40,8 +40,8 @@ class EditorControl {
   /// Loads the catalogue and a cycle (a cycle document, a macro text, or nothing) and fills the screen. Whatever was
   /// loaded before is gone. From inside one of the control's own events it is put off; see above.
   void SetXMLStrings(std::string_view strLatestKam, std::string_view strCycle);
-  /// True: what the configuration and the catalogue mark as hidden is offered all the same; it takes effect at the
-  /// next SetXMLStrings.
+  /// True: the configuration's further atoms and the catalogue's objects that are marked as hidden are offered all the
+  /// same; it takes effect at the next SetXMLStrings.
   void Ignore_Hidden(bool booNewValue);
   /// Whether the cycle that the editor would now produce differs from the one loaded or last handed back.
   bool CycleChanged();

@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include "qt/GridKeys.h"
 #include "qt/RowDelegate.h"
 #include "qt/Text.h"
 
@@ -113,7 +114,7 @@ QSize TextListView::minimumSizeHint() const { return sizeOf(12, 3); }
 bool TextListView::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (key.modifiers() == Qt::NoModifier && (key.key() == Qt::Key_Delete || isReturn(key))) {
+    if (isPlain(key) && (key.key() == Qt::Key_Delete || isReturn(key))) {
       event->accept();
       return true;
     }
@@ -158,7 +159,7 @@ void TextListView::focusInEvent(QFocusEvent* event) {
 }
 
 void TextListView::keyPressEvent(QKeyEvent* event) {
-  if (event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Delete) {
+  if (isPlain(*event) && event->key() == Qt::Key_Delete) {
     event->accept();
     emit deletePressed();
     return;
@@ -168,7 +169,7 @@ void TextListView::keyPressEvent(QKeyEvent* event) {
     emit returnPressed();
     return;
   }
-  const bool again = event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Space;
+  const bool again = isPlain(*event) && event->key() == Qt::Key_Space;
   if (again) {
     event->accept();
     select(currentIndex().row());

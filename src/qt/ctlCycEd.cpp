@@ -28,8 +28,8 @@ class ctlCycEd::Implementation {
 
   EditorControl& editor() { return editor_; }
 
-  /// The editor for a call of the host's that changes what is shown or takes the cycle: a value that is being typed is
-  /// finished first.
+  /// The editor for a call of the host's that replaces or takes the cycle: a value that is being typed is finished
+  /// first, which may show a message. Settings leave the user alone.
   EditorControl& settledEditor() {
     screen_.gate().pass();
     return editor_;
@@ -63,7 +63,7 @@ ctlCycEd::ctlCycEd(HostServices services, QWidget* parent)
 ctlCycEd::~ctlCycEd() = default;
 
 void ctlCycEd::SetConfigXML(const QString& strConfigXml) {
-  implementation_->settledEditor().SetConfigXML(qt::fromQt(strConfigXml));
+  implementation_->editor().SetConfigXML(qt::fromQt(strConfigXml));
 }
 
 void ctlCycEd::SetXMLStrings(const QString& strLatestKam, const QString& strCycle) {
@@ -72,13 +72,11 @@ void ctlCycEd::SetXMLStrings(const QString& strLatestKam, const QString& strCycl
 
 QString ctlCycEd::RetrieveCycle() { return qt::toQt(implementation_->settledEditor().RetrieveCycle()); }
 
-void ctlCycEd::setIgnore_Hidden(bool booNewValue) { implementation_->settledEditor().Ignore_Hidden(booNewValue); }
+void ctlCycEd::setIgnore_Hidden(bool booNewValue) { implementation_->editor().Ignore_Hidden(booNewValue); }
 
 bool ctlCycEd::CycleChanged() { return implementation_->editor().CycleChanged(); }
 
-void ctlCycEd::setResetCycle(const QString& strCycle) {
-  implementation_->settledEditor().ResetCycle(qt::fromQt(strCycle));
-}
+void ctlCycEd::setResetCycle(const QString& strCycle) { implementation_->editor().ResetCycle(qt::fromQt(strCycle)); }
 
 QString ctlCycEd::MacroString() { return qt::toQt(implementation_->settledEditor().MacroString()); }
 

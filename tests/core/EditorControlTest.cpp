@@ -222,12 +222,17 @@ TEST_F(EditorControlTest, TheConfigurationIsReadWhenItIsNeeded) {
 
 TEST_F(EditorControlTest, IgnoreHiddenTakesEffectAtTheNextLoad) {
   control().SetConfigXML(
-      "<Config><FurtherAtoms><ATOM Hidden=\"1\"><AtomName>B</AtomName></ATOM></FurtherAtoms></Config>");
+      "<Config><FurtherAtoms><ATOM Hidden=\"1\"><AtomName>B</AtomName></ATOM>"
+      "<ATOM Hidden=\"1\"><AtomName>A</AtomName><Param>Level;1;3;3;1;None</Param></ATOM></FurtherAtoms></Config>");
   editor_.load(catalogueOf({"A"}));
   control().Ignore_Hidden(true);
   EXPECT_THAT(screen().cboAtom.items(), ElementsAre("A", "REPEAT", "END"));
+  editor_.choose("A");
+  EXPECT_THAT(editor_.gridKeys(), IsEmpty()) << "nor further parameters";
   editor_.load(catalogueOf({"A"}));
   EXPECT_THAT(screen().cboAtom.items(), ElementsAre("A", "B", "REPEAT", "END"));
+  editor_.choose("A");
+  EXPECT_THAT(editor_.gridKeys(), ElementsAre("Level"));
 }
 
 TEST_F(EditorControlTest, ChangingTheDescriptionSetsTheChangedFlag) {

@@ -106,6 +106,20 @@ TEST_F(ListBox, KeysSelect) {
   EXPECT_THAT(told(), ElementsAre("Click -1"));
 }
 
+TEST_F(ListBox, KeysOfTheKeypadAreKeysLikeAllOthers) {
+  QObject::connect(&view(), &qt::TextListView::deletePressed, [this] { log.emplace_back("Delete"); });
+  QObject::connect(&view(), &qt::TextListView::returnPressed, [this] { log.emplace_back("Return"); });
+  for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Enter}) {
+    QKeyEvent claimed(QEvent::ShortcutOverride, key, Qt::KeypadModifier);
+    claimed.ignore();
+    QCoreApplication::sendEvent(&view(), &claimed);
+    EXPECT_TRUE(claimed.isAccepted()) << key;
+    QTest::keyClick(&view(), key, Qt::KeypadModifier);
+    QTest::keyClick(&view(), Qt::Key_Delete, Qt::ShiftModifier);
+  }
+  EXPECT_THAT(told(), ElementsAre("Delete", "Return"));
+}
+
 TEST_F(ListBox, FocusAloneSelectsNothing) {
   EXPECT_EQ(list.index(), -1);
   EXPECT_THAT(told(), IsEmpty());
