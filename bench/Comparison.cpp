@@ -4,11 +4,8 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
-#include <fstream>
-#include <iostream>
 #include <map>
-#include <nlohmann/json.hpp>
+#include <regex>
 #include <utility>
 #include <vector>
 
@@ -24,8 +21,21 @@ std::vector<Comparison>& rows() {
   return all;
 }
 
+/// The shortest time that each piece of work took: what disturbs a run only ever makes it longer. 0: it did not run.
+using Shortest = std::map<const std::function<double()>*, double>;
+
+Shortest& shortest() {
+  static Shortest times;
+  return times;
+}
+
 void measure(benchmark::State& state, const std::function<double()>& work) {
-  for ([[maybe_unused]] const auto _ : state) state.SetIterationTime(work());
+  for ([[maybe_unused]] const auto _ : state) {
+    const double seconds = work();
+    state.SetIterationTime(seconds);
+    double& known = shortest()[&work];
+    known = known == 0 ? seconds : std::min(known, seconds);
+  }
 }
 
 // What is enlisted stays so to the end of the program: `work`, and what it holds, must not.
@@ -36,27 +46,14 @@ void enlist(const std::string& name, const std::function<double()>& work) {
       ->Repetitions(repetitions);
 }
 
-/// Keeps the shortest time of each benchmark: what disturbs a run only ever makes it longer.
-class Shortest : public benchmark::BenchmarkReporter {
+/// The table is ours.
+class Silence : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context&) override { return true; }
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration || run.iterations == 0) continue;
-      const double seconds = run.real_accumulated_time / static_cast<double>(run.iterations);
-      const auto [entry, isFirst] = seconds_.emplace(run.run_name.function_name, seconds);
-      if (!isFirst) entry->second = std::min(entry->second, seconds);
-    }
-  }
-  /// 0 for one that did not run.
-  double of(const std::string& name) const {
-    const auto entry = seconds_.find(name);
-    return entry == seconds_.end() ? 0 : entry->second;
-  }
-
- private:
-  std::map<std::string, double> seconds_;
+  void ReportRuns(const std::vector<Run>&) override {}
 };
+
+bool isWanted(const std::string& name) { return std::regex_search(name, std::regex(benchmark::GetBenchmarkFilter())); }
 
 std::string nameOf(const Comparison& row, const char* side) {
   return row.work + " | " + std::to_string(row.lines) + " | " + side;
@@ -78,13 +75,14 @@ std::vector<Result> runComparisons() {
     enlist(nameOf(row, "ours"), row.ours);
     enlist(nameOf(row, "yardstick"), row.yardstick);
   }
-  Shortest shortest;
-  benchmark::RunSpecifiedBenchmarks(&shortest);
+  Silence silence;
+  benchmark::RunSpecifiedBenchmarks(&silence);
   std::vector<Result> results;
   for (const Comparison& row : rows()) {
+    if (!row.timed && !isWanted(nameOf(row, "ours"))) continue;
     Result result{row.work, row.lines, 0, 0, row.target, row.timed};
-    result.ours = row.timed ? shortest.of(nameOf(row, "ours")) : row.ours();
-    result.yardstick = row.timed ? shortest.of(nameOf(row, "yardstick")) : row.yardstick();
+    result.ours = row.timed ? shortest()[&row.ours] : row.ours();
+    result.yardstick = row.timed ? shortest()[&row.yardstick] : row.yardstick();
     if (result.yardstick > 0) results.push_back(std::move(result));
   }
   rows().clear();

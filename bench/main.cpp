@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #include "Table.h"
 #include "Works.h"
@@ -23,7 +24,12 @@ int main(int argc, char** argv) {
 #endif
     addDocumentWorks();
     addCatalogueWorks();
-    benchmark::Initialize(&argc, argv);
+    // The repetitions of all rows take turns, so that a slow minute of the machine hits none of them alone.
+    std::string interleaving("--benchmark_enable_random_interleaving=true");
+    std::vector<char*> options{argv[0], interleaving.data()};
+    options.insert(options.end(), argv + 1, argv + argc);
+    int optionCount = static_cast<int>(options.size());
+    benchmark::Initialize(&optionCount, options.data());
     const std::vector<Result> results = runComparisons();
     writeTable(std::cout, results);
     if (json.empty()) return 0;

@@ -3,6 +3,7 @@
 #include <libxml/parserInternals.h>
 #include <libxml/xmlerror.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstddef>
 #include <exception>
@@ -16,7 +17,10 @@ namespace mavCycEd::libxml2 {
 namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view whiteSpace = " \t\r\n";
+
+constexpr bool isWhiteSpace(char character) {
+  return character == ' ' || character == '\n' || character == '\t' || character == '\r';
+}
 
 /// What the parser's calls know while a text is parsed.
 struct Progress {
@@ -87,7 +91,7 @@ void takeText(void* context, const xmlChar* text, int size) {
   if (size == 0) return;  // an empty section is no text
   run(context, [&](Progress& progress) {
     const std::string_view piece(fromXml(text), static_cast<std::size_t>(size));
-    if (!progress.inText && piece.find_first_not_of(whiteSpace) == std::string_view::npos) {
+    if (!progress.inText && std::ranges::all_of(piece, isWhiteSpace)) {
       progress.blanks += piece;
       return;
     }
@@ -146,7 +150,7 @@ void setUp(xmlParserCtxt& parser, Progress& progress) {
 Owner<xmlParserCtxt> parse(std::string_view text, ParserEvents& events) {
   if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
   // Whatever begins otherwise is no XML, and libxml2 would take some of it for another encoding.
-  if (text.empty() || (text.front() != '<' && whiteSpace.find(text.front()) == std::string_view::npos)) return nullptr;
+  if (text.empty() || (text.front() != '<' && !isWhiteSpace(text.front()))) return nullptr;
   if (text.size() > INT_MAX || !text::isXmlText(text)) return nullptr;
 
   Progress progress{.events = events, .blanks = {}, .failure = {}};
