@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace mavCycEd::bench {
@@ -9,7 +10,7 @@ namespace mavCycEd::bench {
 struct Comparison {
   std::string work;
   int lines = 0;
-  double target = 0;                  ///< the highest ratio of ours to the yardstick
+  std::optional<double> target;       ///< the highest ratio of ours to the yardstick; nothing: none is set
   std::function<double()> ours;       ///< does the work once; the seconds, or bytes, that it took
   std::function<double()> yardstick;  ///< as `ours`
   bool timed = true;                  ///< false: bytes, which are read off once

@@ -38,7 +38,7 @@ void writeTable(std::ostream& output, const std::vector<Result>& results) {
   for (const Result& result : results) {
     output << "| " << result.work << " | " << result.lines << " | " << inUnit(result.ours, result.timed) << " | "
            << inUnit(result.yardstick, result.timed) << " | " << number("%.2f", result.ratio()) << " | "
-           << number("%g", result.target) << " |\n";
+           << (result.target ? number("%g", *result.target) : "–") << " |\n";
     if (!result.isMet()) ++missed;
   }
   output << '\n';
@@ -46,7 +46,7 @@ void writeTable(std::ostream& output, const std::vector<Result>& results) {
   for (const Result& result : results) {
     if (result.isMet()) continue;
     output << "Missed: " << result.work << ", " << result.lines << " lines: " << number("%.2f", result.ratio())
-           << " instead of at most " << number("%g", result.target) << '\n';
+           << " instead of at most " << number("%g", *result.target) << '\n';
   }
 }
 
@@ -58,7 +58,7 @@ void writeJson(std::ostream& output, const std::vector<Result>& results) {
                     {"ours", result.ours},
                     {"yardstick", result.yardstick},
                     {"ratio", result.ratio()},
-                    {"target", result.target}});
+                    {"target", result.target ? nlohmann::ordered_json(*result.target) : nlohmann::ordered_json()}});
   }
   output << list.dump(2) << '\n';
 }

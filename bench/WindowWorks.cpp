@@ -95,9 +95,11 @@ std::function<double()> bareReset(int lines) {
 
 void addLoading(int lines) {
   const auto window = windowWith(lines);
+  // The window itself is painted too, which counts where the cycle is short.
+  constexpr int shortCycle = 1000;
   compare({.work = "SetXMLStrings, Qt edition, until painted",
            .lines = lines,
-           .target = 2.0,
+           .target = lines > shortCycle ? std::optional(2.0) : std::nullopt,
            .ours =
                [window, lines] {
                  Window& loaded = window();
