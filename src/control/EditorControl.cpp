@@ -37,6 +37,7 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
         catalogue_(services.xmlDocuments),
         provider_(provider ? std::move(provider) : std::make_shared<ConfigAtomListProvider>(catalogue_)) {}
 
+  ~Implementation() = default;
   Implementation(const Implementation&) = delete;
   Implementation& operator=(const Implementation&) = delete;
 
@@ -125,9 +126,10 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
    public:
     explicit Running(Implementation& control) : control_(control) { ++control_.running_; }
     ~Running() {
-      while (control_.running_ == 1 && control_.putOff_ && !control_.ended_) {
-        const Texts texts = *std::exchange(control_.putOff_, std::nullopt);
-        control_.SetXMLStrings(texts.latestKam, texts.cycle);
+      while (control_.running_ == 1 && !control_.ended_) {
+        const std::optional<Texts> texts = std::exchange(control_.putOff_, std::nullopt);
+        if (!texts) break;
+        control_.SetXMLStrings(texts->latestKam, texts->cycle);
       }
       --control_.running_;
     }

@@ -14,6 +14,7 @@ namespace mavCycEd {
 /// The cycle of one control, as far as it is not on the screen.
 struct CycleState {
   CycleState() = default;
+  ~CycleState() = default;
   CycleState(const CycleState&) = delete;
   CycleState& operator=(const CycleState&) = delete;
 

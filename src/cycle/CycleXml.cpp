@@ -101,7 +101,8 @@ class PlainCycle {
     if (any) {
       xml_.append("  </VARIABLES>\n");
     } else {
-      xml_.replace(start, std::string::npos, "  <VARIABLES/>\n");
+      xml_.resize(start);
+      xml_.append("  <VARIABLES/>\n");
     }
     return true;
   }
@@ -133,7 +134,8 @@ class PlainCycle {
       if (!appendParameterLine(line)) return false;
     }
     if (elements.size() == inside) {
-      elements.replace(start, std::string::npos, "        <PARAMETERS/>\n");
+      elements.resize(start);
+      elements.append("        <PARAMETERS/>\n");
     } else {
       elements.append("        </PARAMETERS>\n");
     }

@@ -83,8 +83,8 @@ class CycleContent : public platform::XmlContent {
     switch (place) {
       case Place::Cycle: takeTimestamps(attributes); break;
       case Place::Description: text_ = &cycle.description.emplace(); break;
-      case Place::Variables: cycle.variables.emplace(); break;
-      case Place::Variable: text_ = &cycle.variables->emplace_back(); break;
+      case Place::Variables: variables_ = &cycle.variables.emplace(); break;
+      case Place::Variable: text_ = &variables_->emplace_back(); break;
       case Place::Version: text_ = &cycle.facts.version.emplace(); break;
       case Place::Atoms: cycle.hasAtoms = true; break;
       case Place::Atom: startAtom(); break;
@@ -142,6 +142,7 @@ class CycleContent : public platform::XmlContent {
   int placedDepth_ = 0;          // of the innermost open element that has a place
   std::vector<Place> places_;    // of the open elements that have one
   std::string* text_ = nullptr;  // what the text goes to; null: nowhere
+  std::vector<std::string>* variables_ = nullptr;
   std::optional<std::string> atomName_;
   std::string parameters_;
   bool atomLacksElement_ = false;

@@ -38,7 +38,7 @@ std::string_view shownParameterName(std::string_view segment) {
 /// Notes which dialog is shown while it is.
 class Shown {
  public:
-  Shown(VariableDialogScreen*& place, VariableDialogScreen& screen) : place_(place) { place_ = &screen; }
+  Shown(VariableDialogScreen*& place, VariableDialogScreen& screen) : place_(place) { place = &screen; }
   ~Shown() { place_ = nullptr; }
   Shown(const Shown&) = delete;
   Shown& operator=(const Shown&) = delete;
