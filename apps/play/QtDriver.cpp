@@ -113,6 +113,7 @@ class QtDriver::DialogWatch : public QObject {
 
  private:
   void work() {
+    letGo(*dialog_);  // of the double click that opened the dialog
     if (const auto user = user_) user();
     if (QDialog* const open = dialog()) open->close();
   }
@@ -189,6 +190,7 @@ Widget& QtDriver::use(std::string_view name) const {
     throw StepRefused("The control " + std::string(name) + " is disabled.");
   }
   activate(*window);
+  closeList();
   return widget;
 }
 
@@ -312,6 +314,7 @@ void QtDriver::doubleClickItem(std::string_view list, int index) {
   const QPoint place = placeOf(control, index);
   QTest::mouseClick(control.viewport(), Qt::LeftButton, Qt::NoModifier, place);
   QTest::mouseDClick(control.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  letGo(*control.viewport());
 }
 
 void QtDriver::clickButton(std::string_view button) {

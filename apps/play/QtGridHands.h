@@ -46,11 +46,7 @@ class GridHands {
     }
     const int row = y / rowUnits;
     const int height = view_.verticalHeader()->defaultSectionSize();
-    if (row >= rowCount()) {
-      const int below = y - rowUnits * rowCount();
-      const int bottom = rowCount() == 1 ? 0 : view_.rowViewportPosition(rowCount() - 2) + height;
-      return {view_.viewport(), {pixelX(x), bottom + pixels(below, height, rowUnits)}};
-    }
+    if (row >= rowCount()) return {view_.viewport(), {pixelX(x), belowRows(y - rowUnits * rowCount())}};
     view_.scrollTo(valueCell(row));
     return {view_.viewport(), {pixelX(x), view_.rowViewportPosition(row - 1) + pixels(y % rowUnits, height, rowUnits)}};
   }
@@ -59,12 +55,26 @@ class GridHands {
   static constexpr int rowUnits = 19;
   static constexpr int valueColumnBegin = 151;
 
+  // The pixel that lies so many units below the last row. Where there is none, the window is made higher.
+  int belowRows(int units) const {
+    const int height = view_.verticalHeader()->defaultSectionSize();
+    for (int before = -1;;) {
+      const int bottom = rowCount() == 1 ? 0 : view_.rowViewportPosition(rowCount() - 2) + height;
+      const int place = bottom + pixels(units, height, rowUnits);
+      const int inView = view_.viewport()->height();
+      if (place < inView || inView == std::exchange(before, inView)) return place;
+      QWidget& window = *view_.window();
+      window.resize(window.width(), window.height() + place + 1 - inView);
+    }
+  }
+
   // The first pixel that belongs to a unit.
   static int pixels(int position, int length, int units) { return (position * length + units - 1) / units; }
+  // What lies right of the value column is its last pixel: the grid's own units end nowhere, the view does.
   int pixelX(int x) const {
     const int keyWidth = view_.columnWidth(qt::ValueListModel::keyColumn);
     return x < valueColumnBegin ? std::min(pixels(x, keyWidth, valueColumnBegin), keyWidth - 1)
-                                : keyWidth + x - valueColumnBegin;
+                                : std::min(keyWidth + x - valueColumnBegin, view_.viewport()->width() - 1);
   }
 
   QTableView& view_;

@@ -52,6 +52,18 @@ inline void activate(QWidget& window) {
   throw StepRefused("The window of " + window.objectName().toStdString() + " does not become active.");
 }
 
+/// Lets the mouse's button go that a double click holds down.
+inline void letGo(QWidget& underPointer) {
+  if (QGuiApplication::mouseButtons() != Qt::NoButton) QTest::mouseRelease(&underPointer, Qt::LeftButton);
+}
+
+/// Closes the list of a combo box that is open.
+inline void closeList() {
+  QWidget* const popup = QApplication::activePopupWidget();
+  if (popup == nullptr) return;
+  if (auto* const list = popup->findChild<QAbstractItemView*>()) QTest::keyClick(list, Qt::Key_Escape);
+}
+
 /// Picks an item in a combo box's open list.
 inline void pickInList(QComboBox& combo, int index) {
   combo.showPopup();

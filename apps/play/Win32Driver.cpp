@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Win32Hands.h"
+#include "libxml2/Libxml2DocumentFactory.h"
 #include "text/LineEnds.h"
 
 namespace mavCycEd::play {
@@ -86,12 +87,12 @@ class Win32Driver::DialogWatch : public MessageWindow {
   std::function<void()> user_;
 };
 
-Win32Driver::Win32Driver(platform::XmlDocumentFactory& xmlDocuments, EditorServices services,
-                         CycleEditorErrorHandler onError, std::function<void()> tick)
+Win32Driver::Win32Driver(EditorServices services, CycleEditorErrorHandler onError, std::function<void()> tick)
     : gridTimer_(services.gridTimer),
       tick_(std::move(tick)),
       host_(nullptr, WS_POPUP | WS_CAPTION | WS_SYSMENU, 0),
-      editor_(host_.handle(), xmlDocuments, std::move(onError), std::move(services)),
+      editor_(host_.handle(), std::make_unique<libxml2::Libxml2DocumentFactory>(), std::move(onError),
+              std::move(services)),
       controls_(editor_.screen()),
       dialogWatch_(std::make_unique<DialogWatch>(*this)) {
   host_.setLayOut([this] {
@@ -122,17 +123,22 @@ void Win32Driver::settle() {
   }
 }
 
-void Win32Driver::SetConfigXML(const std::string& strConfigXml) { editor_.settledControl().SetConfigXML(strConfigXml); }
+void Win32Driver::SetConfigXML(const std::string& strConfigXml) { editor_.control().SetConfigXML(strConfigXml); }
 
 void Win32Driver::SetXMLStrings(const std::string& strLatestKam, const std::string& strCycle) {
-  editor_.settledControl().SetXMLStrings(strLatestKam, strCycle);
+  editor_.settle();
+  editor_.control().SetXMLStrings(strLatestKam, strCycle);
   settle();
 }
 
-void Win32Driver::Ignore_Hidden(bool booNewValue) { editor_.settledControl().Ignore_Hidden(booNewValue); }
+void Win32Driver::Ignore_Hidden(bool booNewValue) { editor_.control().Ignore_Hidden(booNewValue); }
 bool Win32Driver::CycleChanged() { return editor_.control().CycleChanged(); }
-std::string Win32Driver::RetrieveCycle() { return editor_.settledControl().RetrieveCycle(); }
-void Win32Driver::ResetCycle(const std::string& strCycle) { editor_.settledControl().ResetCycle(strCycle); }
+std::string Win32Driver::RetrieveCycle() {
+  editor_.settle();
+  return editor_.control().RetrieveCycle();
+}
+
+void Win32Driver::ResetCycle(const std::string& strCycle) { editor_.control().ResetCycle(strCycle); }
 const EditorControl& Win32Driver::editor() const { return editor_.control(); }
 std::string Win32Driver::MacroString() { return editor_.control().MacroString(); }
 

@@ -15,8 +15,7 @@ namespace mavCycEd::play {
 class Win32Driver : public ControlDriver {
  public:
   /// `services` must hold a grid timer; `tick` makes it tick once if it is on.
-  Win32Driver(platform::XmlDocumentFactory& xmlDocuments, win32::EditorServices services,
-              CycleEditorErrorHandler onError, std::function<void()> tick);
+  Win32Driver(win32::EditorServices services, CycleEditorErrorHandler onError, std::function<void()> tick);
   ~Win32Driver() override;
   Win32Driver(const Win32Driver&) = delete;
   Win32Driver& operator=(const Win32Driver&) = delete;

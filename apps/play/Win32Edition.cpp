@@ -5,14 +5,12 @@
 
 #include "Output.h"
 #include "Win32Driver.h"
-#include "libxml2/Libxml2DocumentFactory.h"
 #include "memory/MemoryServices.h"
 #include "memory/MemoryTimer.h"
 
 namespace mavCycEd::play {
 
 int withWin32Driver(const std::string& now, const std::function<int(ControlDriver&)>& body) {
-  libxml2::Libxml2DocumentFactory xmlDocuments;
   const auto timer = std::make_shared<memory::MemoryTimer>();
   win32::EditorServices services;
   services.messageBox =
@@ -22,7 +20,7 @@ int withWin32Driver(const std::string& now, const std::function<int(ControlDrive
   services.clock = std::make_shared<memory::StandingClock>(now);
   services.gridTimer = timer;
   Win32Driver driver(
-      xmlDocuments, services, [](const CycleEditorErrorEvent& event) { writeLine(std::cout, asLine(event)); },
+      services, [](const CycleEditorErrorEvent& event) { writeLine(std::cout, asLine(event)); },
       [timer] { timer->fire(); });
   return body(driver);
 }

@@ -22,7 +22,8 @@ class AtomListProvider {
  public:
   virtual ~AtomListProvider() = default;
 
-  /// True: what is marked as hidden is shown all the same. It takes effect at the next SetXMLStrings.
+  /// True: what is marked as hidden is shown all the same. It takes effect at the next SetXMLStrings, which begins with
+  /// the question for the further atom names; until then all answers stay as they are.
   virtual void setIgnoreHidden(bool ignore) = 0;
 
   /// Names that the atom picker offers behind the catalogue's atoms; empty ones are left out.

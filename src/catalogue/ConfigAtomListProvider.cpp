@@ -35,6 +35,7 @@ bool ConfigAtomListProvider::isHidden(const XmlNode& element) const {
 }
 
 std::vector<std::string> ConfigAtomListProvider::furtherAtomNames() {
+  ignoreHidden_ = ignoreHiddenNext_;
   std::vector<std::string> names;
   const ValueList catalogueNames = catalogue_.atomNames();
   std::unordered_set<std::string> known(catalogueNames.begin(), catalogueNames.end());

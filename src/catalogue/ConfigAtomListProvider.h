@@ -17,6 +17,9 @@ namespace mavCycEd {
 ///   that the catalogue has too is not offered twice; its definitions follow the catalogue's own.
 /// - An attribute `Hidden` of "1" on such an ATOM, or on an object of the catalogue, hides it.
 ///
+/// Whether the mark is ignored is settled when the further atom names are asked for, which every load does once; it
+/// then holds for all questions until the next load.
+///
 /// "REPEAT" (with the number of repetitions) and "END" are offered when neither the catalogue nor the configuration
 /// names them.
 class ConfigAtomListProvider : public AtomListProvider {
@@ -24,7 +27,7 @@ class ConfigAtomListProvider : public AtomListProvider {
   /// The catalogue reader outlives the provider.
   explicit ConfigAtomListProvider(modCycleHelper& catalogue) : catalogue_(catalogue) {}
 
-  void setIgnoreHidden(bool ignore) override { ignoreHidden_ = ignore; }
+  void setIgnoreHidden(bool ignore) override { ignoreHiddenNext_ = ignore; }
   std::vector<std::string> furtherAtomNames() override;
   UnitOfMeasure lookUpUnit(std::string_view unitName) override;
   bool isObjectHidden(const platform::XmlNode& object) override;
@@ -34,6 +37,7 @@ class ConfigAtomListProvider : public AtomListProvider {
   bool isHidden(const platform::XmlNode& element) const;
 
   modCycleHelper& catalogue_;
+  bool ignoreHiddenNext_ = false;  // from the next load on
   bool ignoreHidden_ = false;
 };
 

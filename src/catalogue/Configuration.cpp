@@ -12,30 +12,45 @@ using platform::XmlNode;
 void Configuration::setText(std::string text) {
   text_ = std::move(text);
   parsed_.reset();
+  arguments_.reset();
 }
 
-platform::XmlNodeList Configuration::elements(std::string_view path) {
+XmlNode Configuration::root() {
   if (text_.empty()) return {};
   if (!parsed_) {
     std::unique_ptr<platform::XmlDocument> document = xmlDocuments_.createDocument();
     document->loadXML(text_);
     parsed_ = std::move(document);
   }
-  const XmlNode config = parsed_->selectSingleNode("Config");
+  return parsed_->selectSingleNode("Config");
+}
+
+platform::XmlNodeList Configuration::elements(std::string_view path) {
+  const XmlNode config = root();
   return config ? config.selectNodes(path) : platform::XmlNodeList();
 }
 
-void Configuration::appendArguments(std::string_view objectName, ValueList& list) {
-  std::unordered_set<std::string> known;
-  for (const std::string& entry : list) known.insert(text::foldCase(entry));
+const Configuration::Arguments& Configuration::arguments() {
+  if (arguments_) return *arguments_;
+  Arguments arguments;
   for (const XmlNode& object : elements("Arguments/OBJECT")) {
     const XmlNode name = object.selectSingleNode("OBJECTNAME");
-    if (!name) return;
-    if (name.text() != objectName) continue;
+    if (!name) break;
+    ValueList& texts = arguments[name.text()];
     for (XmlNode argument = object.firstChild().nextSibling(); argument; argument = argument.nextSibling()) {
-      std::string text = argument.text();
-      if (known.insert(text::foldCase(text)).second) list.push_back(std::move(text));
+      texts.push_back(argument.text());
     }
+  }
+  return arguments_.emplace(std::move(arguments));
+}
+
+void Configuration::appendArguments(std::string_view objectName, ValueList& list) {
+  const auto offered = arguments().find(std::string(objectName));
+  if (offered == arguments().end() || offered->second.empty()) return;
+  std::unordered_set<std::string> known;
+  for (const std::string& entry : list) known.insert(text::foldCase(entry));
+  for (const std::string& argument : offered->second) {
+    if (known.insert(text::foldCase(argument)).second) list.push_back(argument);
   }
 }
 

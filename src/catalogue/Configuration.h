@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include "catalogue/CatalogueText.h"
 #include "platform/XmlDocument.h"
@@ -28,9 +30,14 @@ class Configuration {
   void appendArguments(std::string_view objectName, ValueList& list);
 
  private:
+  using Arguments = std::unordered_map<std::string, ValueList>;
+  platform::XmlNode root();
+  const Arguments& arguments();
+
   platform::XmlDocumentFactory& xmlDocuments_;
   std::string text_;
   std::unique_ptr<platform::XmlDocument> parsed_;
+  std::optional<Arguments> arguments_;  // by object name
 };
 
 }  // namespace mavCycEd

@@ -1,7 +1,7 @@
 #include "catalogue/modCycleHelper.h"
 
 #include <algorithm>
-#include <vector>
+#include <utility>
 
 #include "platform/RunTimeError.h"
 #include "text/Number.h"
@@ -12,6 +12,12 @@ namespace mavCycEd {
 
 using platform::XmlNode;
 using platform::XmlNodeList;
+
+void modCycleHelper::setCatalogue(std::shared_ptr<platform::XmlDocument> catalogue) {
+  index_.reset();
+  catalogue_ = std::move(catalogue);
+  if (catalogue_) index_.emplace(*catalogue_);
+}
 
 XmlNodeList modCycleHelper::select(std::string_view path) const {
   return catalogue_ ? catalogue_->selectNodes(path) : XmlNodeList();
@@ -28,16 +34,19 @@ ValueList modCycleHelper::atomNames() const {
 }
 
 XmlNode modCycleHelper::atom(std::string_view name) const {
-  for (const XmlNode& atom : atoms()) {
-    const XmlNode atomName = atom.selectSingleNode("AtomName");
-    if (atomName && pickerName(atomName.text()) == name) return atom;
-  }
-  return {};
+  return index_ ? index_->atom(std::string(name)) : XmlNode();
 }
 
-XmlNodeList modCycleHelper::objects() const {
-  const XmlNodeList found = select("LATESTKAM/OBJECTS");
-  return found.length() > 0 ? found.item(0).childNodes() : XmlNodeList();
+std::vector<CatalogueObject> modCycleHelper::objectsOf(const std::vector<std::string_view>& classes) const {
+  std::vector<CatalogueObject> objects;
+  if (!index_) return objects;
+  for (auto name = classes.begin(); name != classes.end(); ++name) {
+    if (std::find(classes.begin(), name, *name) != name) continue;
+    const auto found = index_->objectsOf(std::string(*name));
+    objects.insert(objects.end(), found.begin(), found.end());
+  }
+  if (classes.size() > 1) std::ranges::sort(objects, {}, &CatalogueObject::position);
+  return objects;
 }
 
 std::string modCycleHelper::classNames() const {
@@ -57,32 +66,14 @@ void modCycleHelper::appendObjectValues(std::string_view classValue, ValueList& 
 }
 
 void modCycleHelper::appendSyringes(std::string_view classValue, ValueList& list) const {
-  const XmlNodeList classes = select("LATESTKAM/CLASSES/CLASS");
-  const auto syringes = std::ranges::find_if(classes, [](const XmlNode& element) {
-    const XmlNode first = element.firstChild();
-    return first && first.text() == "SYRINGE";
-  });
-  if (syringes == classes.end()) return;
-  for (XmlNode syringe = syringes->firstChild().nextSibling(); syringe; syringe = syringe.nextSibling()) {
-    const std::string definition = syringe.text();
-    const auto fields = text::split(definition, ';');
-    if (fields.empty() || cleanedEntry(fields.back()) != classValue) continue;
-    const std::string_view name = fields.front();
-    if (std::ranges::find(list, name) == list.end()) list.push_back("SYR." + std::string(name));
+  if (!index_) return;
+  for (const std::string& name : index_->syringesOf(std::string(classValue))) {
+    if (std::ranges::find(list, name) == list.end()) list.push_back("SYR." + name);
   }
 }
 
 std::string modCycleHelper::namedList(std::int32_t number) const {
-  for (const XmlNode& list : select("LATESTKAM/LISTS/LIST")) {
-    const XmlNode name = list.firstChild();
-    if (!name) continue;
-    const std::string text = name.text();
-    if (!text::isNumeric(text)) throw RunTimeError(ErrorNumber::TypeMismatch);
-    if (text::numericValue(text) != number) continue;
-    const XmlNode entries = name.nextSibling();
-    return entries ? entries.text() : std::string();
-  }
-  return {};
+  return index_ ? index_->namedList(number) : std::string();
 }
 
 std::string modCycleHelper::standardUnits() const {

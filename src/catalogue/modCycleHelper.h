@@ -2,10 +2,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
+#include <vector>
 
+#include "catalogue/CatalogueIndex.h"
 #include "catalogue/CatalogueText.h"
 #include "catalogue/Configuration.h"
 #include "platform/OptionButton.h"
@@ -21,7 +23,7 @@ class modCycleHelper {
   explicit modCycleHelper(platform::XmlDocumentFactory& xmlDocuments) : configuration_(xmlDocuments) {}
 
   /// Keeps a shared reference to the catalogue; every question about the catalogue reads it.
-  void setCatalogue(std::shared_ptr<platform::XmlDocument> catalogue) { catalogue_ = std::move(catalogue); }
+  void setCatalogue(std::shared_ptr<platform::XmlDocument> catalogue);
   Configuration& configuration() { return configuration_; }
 
   /// The ATOM elements, in document order.
@@ -30,8 +32,9 @@ class modCycleHelper {
   ValueList atomNames() const;
   /// The ATOM element whose name, as the picker shows it, is `name`; nothing when there is none.
   platform::XmlNode atom(std::string_view name) const;
-  /// The elements under OBJECTS: their first child is the object's class, their second its name.
-  platform::XmlNodeList objects() const;
+  /// The objects of these classes, in document order, each once: elements under OBJECTS whose first child is the class
+  /// and whose second is the name.
+  std::vector<CatalogueObject> objectsOf(const std::vector<std::string_view>& classes) const;
 
   /// The class names, in document order, joined by ";". One whose whole text has no more than 2 characters keeps a ";"
   /// in front.
@@ -54,6 +57,7 @@ class modCycleHelper {
 
   Configuration configuration_;
   std::shared_ptr<platform::XmlDocument> catalogue_;
+  std::optional<CatalogueIndex> index_;  // nothing without a catalogue
 };
 
 /// Selects the option that fits a variable's definition: the object option when its second ";"-separated field is an

@@ -1,5 +1,7 @@
 #include "control/EditorControl.h"
 
+#include <functional>
+#include <optional>
 #include <utility>
 
 #include "catalogue/ConfigAtomListProvider.h"
@@ -22,22 +24,48 @@
 
 namespace mavCycEd {
 
-class EditorControl::Implementation {
+/// It is shared by the control and by every procedure that runs, so that it lives until the last of them has ended.
+class EditorControl::Implementation : public std::enable_shared_from_this<Implementation> {
  public:
   Implementation(const ControlScreen& screen, const PlatformServices& services, CycleEditorErrorHandler onError,
-                 std::shared_ptr<AtomListProvider> provider)
-      : screen_(screen),
+                 std::shared_ptr<AtomListProvider> provider, std::shared_ptr<void> owner)
+      : owner_(std::move(owner)),
+        screen_(screen),
         services_(services),
         modErr_(services.systemMessage),
         errors_(modErr_, std::move(onError)),
         catalogue_(services.xmlDocuments),
-        provider_(provider ? std::move(provider) : std::make_shared<ConfigAtomListProvider>(catalogue_)) {
-    guarded(errors_, "UserControl_Initialize", [this] { start(); });
-  }
+        provider_(provider ? std::move(provider) : std::make_shared<ConfigAtomListProvider>(catalogue_)) {}
 
-  ~Implementation() { disconnectScreen(screen_); }
+  ~Implementation() = default;
   Implementation(const Implementation&) = delete;
   Implementation& operator=(const Implementation&) = delete;
+
+  void start() {
+    guarded(errors_, "UserControl_Initialize", [this] {
+      setUpScreen(screen_);
+      connect();
+    });
+  }
+
+  // The control is being destroyed: nothing more is told to anybody.
+  void end() {
+    ended_ = true;
+    errors_.end();
+    messages_.end();
+    variables_.end();
+    disconnectScreen(screen_);
+  }
+
+  /// Runs one of the control's entries: a member, or the answer to an event of the screen.
+  template <typename Entry>
+  auto run(const Entry& entry) {
+    const auto self = this->shared_from_this();
+    const Running running(*this);
+    return entry();
+  }
+
+  bool isRunning() const { return running_ > 0; }
 
   void SetConfigXML(std::string strConfigXml) {
     guarded(errors_, "SetConfigXML", [&] { catalogue_.configuration().setText(std::move(strConfigXml)); });
@@ -45,11 +73,15 @@ class EditorControl::Implementation {
 
   void SetXMLStrings(std::string_view strLatestKam, std::string_view strCycle) {
     guarded(errors_, "SetXMLStrings", [&] {
+      if (running_ > 1) {
+        putOff_ = Texts{std::string(strLatestKam), std::string(strCycle)};
+        return;
+      }
       screen_.fraCyclePart.setCaption("Cycle");
       const std::shared_ptr<platform::XmlDocument> catalogue = parsed(strLatestKam);
-      cycle_.working = parsed(strCycle);
-      if (!cycle_.reference) cycle_.reference = services_.xmlDocuments.createDocument();
-      cycle_.reference->loadXML(strCycle);
+      cycle_.working = readCycle(strCycle, services_.xmlDocuments);
+      const bool isDocument = !cycle_.working.isEmpty;
+      cycle_.reference.setLoaded(isDocument ? strCycle : std::string_view(), cycle_.working.facts);
       startNewCycle();
       catalogue_.setCatalogue(catalogue);
       screen_.cboAtom.clear();
@@ -73,7 +105,7 @@ class EditorControl::Implementation {
   std::string RetrieveCycle() { return handBack_.RetrieveCycle(); }
 
   void ResetCycle(std::string_view strCycle) {
-    guarded(errors_, "ResetCycle", [&] { cycle_.working = parsed(strCycle); });
+    guarded(errors_, "ResetCycle", [&] { cycle_.working = readCycle(strCycle, services_.xmlDocuments); });
   }
 
   std::string MacroString() { return macroText_.MacroString(); }
@@ -83,43 +115,69 @@ class EditorControl::Implementation {
   const GridState& grid() const { return grid_; }
 
  private:
-  void start() {
-    cycle_.reference = services_.xmlDocuments.createDocument();
-    setUpScreen(screen_);
-    connect();
+  /// The texts of a SetXMLStrings that waits.
+  struct Texts {
+    std::string latestKam;
+    std::string cycle;
+  };
+
+  /// Counts the entries that run, each inside the one before. When the outermost ends, what was put off is done.
+  class Running {
+   public:
+    explicit Running(Implementation& control) : control_(control) { ++control_.running_; }
+    ~Running() {
+      while (control_.running_ == 1 && !control_.ended_) {
+        const std::optional<Texts> texts = std::exchange(control_.putOff_, std::nullopt);
+        if (!texts) break;
+        control_.SetXMLStrings(texts->latestKam, texts->cycle);
+      }
+      --control_.running_;
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+   private:
+    Implementation& control_;
+  };
+
+  // The answer to an event that brings nothing with it.
+  template <typename Procedure>
+  std::function<void()> answer(Procedure procedure) {
+    return [this, procedure] { run(procedure); };
   }
 
   // The screen's events go to the procedures that answer them.
   void connect() {
-    screen_.txtCycleDescription.setEvents({.Change = [this] { txtCycleDescription_Change(); }});
-    screen_.lstAtomSequence.setEvents({.Click = [this] { loader_.lstAtomSequence_Click(); },
-                                       .DblClick = [this] { loader_.lstAtomSequence_DblClick(); }});
-    screen_.cmdInset.setEvents({.Click = [this] { sequenceEditing_.cmdInset_Click(); }});
-    screen_.cmdReplace.setEvents({.Click = [this] { sequenceEditing_.cmdReplace_Click(); }});
-    screen_.cmdDelete.setEvents({.Click = [this] { sequenceEditing_.cmdDelete_Click(); }});
-    screen_.lstVariables.setEvents({.Click = {}, .DblClick = [this] { variables_.lstVariables_DblClick(); }});
-    screen_.cmdIns.setEvents({.Click = [this] { variables_.cmdIns_Click(); }});
-    screen_.cmdDel.setEvents({.Click = [this] { variables_.cmdDel_Click(); }});
-    screen_.cboAtom.setEvents({.Click = [this] { sequenceEditing_.cboAtom_Click(); }, .LostFocus = {}});
-    screen_.cmdDefault.setEvents({.Click = [this] { sequenceEditing_.cmdDefault_Click(); }});
-    screen_.mnuSubParam.setEvents({.Click = [this](int index) { offeredValues_.mnuSubParam_Click(index); }});
-    screen_.tmrUpdateGrid.setEvents({.Tick = [this] { tmrUpdateGrid_Timer(); }});
+    screen_.txtCycleDescription.setEvents({.Change = answer([this] { txtCycleDescription_Change(); })});
+    screen_.lstAtomSequence.setEvents({.Click = answer([this] { loader_.lstAtomSequence_Click(); }),
+                                       .DblClick = answer([this] { loader_.lstAtomSequence_DblClick(); })});
+    screen_.cmdInset.setEvents({.Click = answer([this] { sequenceEditing_.cmdInset_Click(); })});
+    screen_.cmdReplace.setEvents({.Click = answer([this] { sequenceEditing_.cmdReplace_Click(); })});
+    screen_.cmdDelete.setEvents({.Click = answer([this] { sequenceEditing_.cmdDelete_Click(); })});
+    screen_.lstVariables.setEvents({.Click = {}, .DblClick = answer([this] { variables_.lstVariables_DblClick(); })});
+    screen_.cmdIns.setEvents({.Click = answer([this] { variables_.cmdIns_Click(); })});
+    screen_.cmdDel.setEvents({.Click = answer([this] { variables_.cmdDel_Click(); })});
+    screen_.cboAtom.setEvents({.Click = answer([this] { sequenceEditing_.cboAtom_Click(); }), .LostFocus = {}});
+    screen_.cmdDefault.setEvents({.Click = answer([this] { sequenceEditing_.cmdDefault_Click(); })});
+    screen_.mnuSubParam.setEvents(
+        {.Click = [this](int index) { run([&] { offeredValues_.mnuSubParam_Click(index); }); }});
+    screen_.tmrUpdateGrid.setEvents({.Tick = answer([this] { tmrUpdateGrid_Timer(); })});
     connectGrid();
   }
 
   void connectGrid() {
     platform::ValueListEvents events;
-    events.SelectionChange = [this] { offeredValues_.GrdAtom_OnSelectionChange(); };
-    events.ContextPopup = [this](int x, int y) { offeredValues_.GrdAtom_OnContextPopup(x, y); };
+    events.SelectionChange = answer([this] { offeredValues_.GrdAtom_OnSelectionChange(); });
+    events.ContextPopup = [this](int x, int y) { run([&] { offeredValues_.GrdAtom_OnContextPopup(x, y); }); };
     events.MouseDown = [this](platform::MouseButton button, int x, int y) {
-      offeredValues_.GrdAtom_OnMouseDown(button, x, y);
+      run([&] { offeredValues_.GrdAtom_OnMouseDown(button, x, y); });
     };
-    events.MouseMove = [this](int x, int y) { offeredValues_.GrdAtom_OnMouseMove(x, y); };
+    events.MouseMove = [this](int x, int y) { run([&] { offeredValues_.GrdAtom_OnMouseMove(x, y); }); };
     events.SetEditText = [this](int column, int row, const std::string& value) {
-      validation_.GrdAtom_OnSetEditText(column, row, value);
+      run([&] { validation_.GrdAtom_OnSetEditText(column, row, value); });
     };
     events.EndOfEdit = [this](int, int row, const std::string&, const std::string& value) {
-      validation_.GrdAtom_OnEndOfEdit(row, value);
+      run([&] { validation_.GrdAtom_OnEndOfEdit(row, value); });
     };
     screen_.GrdAtom.setEvents(std::move(events));
   }
@@ -133,8 +191,8 @@ class EditorControl::Implementation {
   // Nothing of the cycle before stays: no line, variable, description or grid row.
   void startNewCycle() {
     cycle_.atoms.Clear();
-    cycle_.displayIndent = 1;
-    cycle_.changed = false;
+    cycle_.display.clear();
+    cycle_.replaced();
     grid_.ready = false;
     paramGrid_.UpdateControls(screen_.lstVariables, screen_.lstAtomSequence, screen_.txtCycleDescription);
     grid_.ready = true;
@@ -149,9 +207,9 @@ class EditorControl::Implementation {
 
   void loadCycle(std::string_view strCycle) {
     constexpr std::size_t tooShortForMacro = 3;
-    if (cycle_.working->childNodes().length() > 0) {
+    if (!cycle_.working.isEmpty) {
       loader_.FillCycle();
-      cycle_.changed = false;
+      cycle_.replaced();
     } else if (text::hasMoreCharactersThan(strCycle, tooShortForMacro) && macroText_.IsAnMacro(strCycle)) {
       macroText_.FillMacro(strCycle);
     }
@@ -166,7 +224,7 @@ class EditorControl::Implementation {
   }
 
   void txtCycleDescription_Change() {
-    guarded(errors_, "txtCycleDescription_Change", [this] { cycle_.changed = true; });
+    guarded(errors_, "txtCycleDescription_Change", [this] { cycle_.edited(); });
   }
 
   void tmrUpdateGrid_Timer() {
@@ -180,8 +238,12 @@ class EditorControl::Implementation {
 
   static constexpr int firstParameterRow = 1;
 
+  std::shared_ptr<void> owner_;  // goes last
   ControlScreen screen_;
   PlatformServices services_;
+  int running_ = 0;
+  bool ended_ = false;
+  std::optional<Texts> putOff_;
   modErr modErr_;
   ErrorReporter errors_;
   modCycleHelper catalogue_;
@@ -196,7 +258,7 @@ class EditorControl::Implementation {
   OfferedValues offeredValues_{screen_.GrdAtom, screen_.mnuSubParam, grid_, catalogue_, errors_};
   ExtraValues extraValues_{screen_.GrdAtom, grid_, screen_.lstVariables, errors_};
   CycleWriter writer_{cycle_, cycleScreen_, services_.xmlDocuments, services_.clock, errors_};
-  HandBack handBack_{cycle_, writer_, services_.codePage, errors_};
+  HandBack handBack_{cycle_, writer_, services_.xmlDocuments, services_.codePage, errors_};
   CycleLoader loader_{cycle_, cycleScreen_, screen_.cboAtom, screen_.GrdAtom, errors_};
   AtomSequenceEditing sequenceEditing_{
       cycle_,
@@ -214,26 +276,45 @@ class EditorControl::Implementation {
 };
 
 EditorControl::EditorControl(const ControlScreen& screen, const PlatformServices& services,
-                             CycleEditorErrorHandler onError, std::shared_ptr<AtomListProvider> provider)
-    : implementation_(std::make_unique<Implementation>(screen, services, std::move(onError), std::move(provider))) {}
-
-EditorControl::~EditorControl() = default;
-
-void EditorControl::SetConfigXML(std::string strConfigXml) { implementation_->SetConfigXML(std::move(strConfigXml)); }
-void EditorControl::SetXMLStrings(std::string_view strLatestKam, std::string_view strCycle) {
-  implementation_->SetXMLStrings(strLatestKam, strCycle);
+                             CycleEditorErrorHandler onError, std::shared_ptr<AtomListProvider> provider,
+                             std::shared_ptr<void> owner)
+    : implementation_(std::make_shared<Implementation>(screen, services, std::move(onError), std::move(provider),
+                                                       std::move(owner))) {
+  implementation_->start();
 }
-void EditorControl::Ignore_Hidden(bool booNewValue) { implementation_->Ignore_Hidden(booNewValue); }
-bool EditorControl::CycleChanged() { return implementation_->CycleChanged(); }
-std::string EditorControl::RetrieveCycle() { return implementation_->RetrieveCycle(); }
-void EditorControl::ResetCycle(std::string_view strCycle) { implementation_->ResetCycle(strCycle); }
-std::string EditorControl::MacroString() { return implementation_->MacroString(); }
-bool EditorControl::ParamValueControl(std::string& message) { return implementation_->ParamValueControl(message); }
+
+EditorControl::~EditorControl() { implementation_->end(); }
+
+void EditorControl::SetConfigXML(std::string strConfigXml) {
+  implementation_->run([&, self = implementation_.get()] { self->SetConfigXML(std::move(strConfigXml)); });
+}
+void EditorControl::SetXMLStrings(std::string_view strLatestKam, std::string_view strCycle) {
+  implementation_->run([&, self = implementation_.get()] { self->SetXMLStrings(strLatestKam, strCycle); });
+}
+void EditorControl::Ignore_Hidden(bool booNewValue) {
+  implementation_->run([&, self = implementation_.get()] { self->Ignore_Hidden(booNewValue); });
+}
+bool EditorControl::CycleChanged() {
+  return implementation_->run([self = implementation_.get()] { return self->CycleChanged(); });
+}
+std::string EditorControl::RetrieveCycle() {
+  return implementation_->run([self = implementation_.get()] { return self->RetrieveCycle(); });
+}
+void EditorControl::ResetCycle(std::string_view strCycle) {
+  implementation_->run([&, self = implementation_.get()] { self->ResetCycle(strCycle); });
+}
+std::string EditorControl::MacroString() {
+  return implementation_->run([self = implementation_.get()] { return self->MacroString(); });
+}
+bool EditorControl::ParamValueControl(std::string& message) {
+  return implementation_->run([&, self = implementation_.get()] { return self->ParamValueControl(message); });
+}
 
 const cAtoms& EditorControl::atoms() const { return implementation_->cycle().atoms; }
 const ParamRowTable& EditorControl::parameterRows() const { return implementation_->grid().rows; }
 bool EditorControl::changedFlag() const { return implementation_->cycle().changed; }
 bool EditorControl::gridReady() const { return implementation_->grid().ready; }
 int EditorControl::currentGridRow() const { return implementation_->grid().currentRow; }
+bool EditorControl::isRunning() const { return implementation_->isRunning(); }
 
 }  // namespace mavCycEd

@@ -17,14 +17,20 @@ namespace mavCycEd {
 /// edition makes the screen and the services and gives them to this class; everything else happens here.
 ///
 /// All members run on the user-interface thread. No exception leaves a member: failures reach the host through the
-/// CycleEditorError handler, while the procedure that failed is still on its way back. The handler must not destroy the
-/// control, and the control must not be destroyed while one of its message boxes or its dialog is open.
+/// CycleEditorError handler, while the procedure that failed is still on its way back.
+///
+/// A handler, and whatever runs while a message box or the dialog is open, may call every member and may destroy the
+/// control. SetXMLStrings is then put off until the procedure that is running has ended; of several calls the last one
+/// counts. A control that is destroyed closes its dialog, tells nothing more, and lets the running procedure end on a
+/// screen that nobody sees.
 class EditorControl {
  public:
   /// Starts the control on a screen: captions and titles are set, the timer is off, nothing is loaded. Without a
-  /// provider the control makes its own, which draws on the configuration text.
+  /// provider the control makes its own, which draws on the configuration text. `owner` keeps the screen and the
+  /// services alive; it is released when the control is destroyed and its last procedure has ended. Without an owner
+  /// they have to live that long by themselves.
   EditorControl(const ControlScreen& screen, const PlatformServices& services, CycleEditorErrorHandler onError,
-                std::shared_ptr<AtomListProvider> provider = nullptr);
+                std::shared_ptr<AtomListProvider> provider = nullptr, std::shared_ptr<void> owner = nullptr);
   ~EditorControl();
   EditorControl(const EditorControl&) = delete;
   EditorControl& operator=(const EditorControl&) = delete;
@@ -32,10 +38,10 @@ class EditorControl {
   /// Stores the configuration document; it is parsed when a question needs it.
   void SetConfigXML(std::string strConfigXml);
   /// Loads the catalogue and a cycle (a cycle document, a macro text, or nothing) and fills the screen. Whatever was
-  /// loaded before is gone.
+  /// loaded before is gone. From inside one of the control's own events it is put off; see above.
   void SetXMLStrings(std::string_view strLatestKam, std::string_view strCycle);
-  /// True: what the configuration and the catalogue mark as hidden is offered all the same; it takes effect at the
-  /// next SetXMLStrings.
+  /// True: the configuration's further atoms and the catalogue's objects that are marked as hidden are offered all the
+  /// same; it takes effect at the next SetXMLStrings.
   void Ignore_Hidden(bool booNewValue);
   /// Whether the cycle that the editor would now produce differs from the one loaded or last handed back.
   bool CycleChanged();
@@ -60,10 +66,12 @@ class EditorControl {
   bool gridReady() const;
   /// The grid row that the pop-up menu's choices go to.
   int currentGridRow() const;
+  /// Whether a procedure is running at this moment: the caller is one of the control's own events.
+  bool isRunning() const;
 
  private:
   class Implementation;
-  std::unique_ptr<Implementation> implementation_;
+  std::shared_ptr<Implementation> implementation_;
 };
 
 }  // namespace mavCycEd

@@ -5,11 +5,28 @@
 #include "control/Version.h"
 
 namespace mavCycEd {
+namespace {
+
+class Counted {
+ public:
+  explicit Counted(int& count) : count_(++count) {}
+  ~Counted() { --count_; }
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+
+ private:
+  int& count_;
+};
+
+}  // namespace
 
 void ErrorReporter::report(const RunTimeError& error, std::string_view procedure) noexcept {
   try {
     errors_.copyError(error);
-    if (!onError_) return;
+    constexpr int deepest = 16;
+    // A copy is called: the handler may end the control.
+    const CycleEditorErrorHandler onError = onError_;
+    if (!onError || told_ >= deepest) return;
     CycleEditorErrorEvent event;
     event.lngError = errors_.record().number;
     event.strError = errors_.record().description;
@@ -17,7 +34,8 @@ void ErrorReporter::report(const RunTimeError& error, std::string_view procedure
     event.strModule = "ctlCycEd";
     event.strProcedure = std::string(procedure) + " ";
     event.intLineNumber = error.lineNumber();
-    onError_(event);
+    const Counted counted(told_);
+    onError(event);
   } catch (...) {
     // The host's handler failed, or there is no memory left to tell it anything: there is nobody else to tell.
     return;

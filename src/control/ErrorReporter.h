@@ -13,12 +13,16 @@ class ErrorReporter : public ErrorSink {
  public:
   ErrorReporter(modErr& errors, CycleEditorErrorHandler onError) : errors_(errors), onError_(std::move(onError)) {}
 
-  /// A handler that throws is on its own: what it throws ends here.
+  /// A handler that throws is on its own: what it throws ends here. One whose own calls fail again and again is not
+  /// called without end.
   void report(const RunTimeError& error, std::string_view procedure) noexcept override;
+  /// From now on nobody is told.
+  void end() { onError_ = {}; }
 
  private:
   modErr& errors_;
   CycleEditorErrorHandler onError_;
+  int told_ = 0;  // events that are being handled, each inside the one before
 };
 
 }  // namespace mavCycEd

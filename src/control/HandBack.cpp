@@ -11,12 +11,10 @@ constexpr double newFormatVersion = 3;
 }  // namespace
 
 HandBack::Format HandBack::referenceFormat() const {
-  const platform::XmlNode version =
-      cycle_.reference ? cycle_.reference->selectSingleNode("CYCLE/VERSION") : platform::XmlNode();
+  const std::optional<std::string>& version = cycle_.reference.facts().version;
   if (!version) return Format::Old;
-  const std::string value = version.nodeTypedValue();
-  if (!text::isNumeric(value)) return Format::Unknown;
-  return text::numericValue(value) < newFormatVersion ? Format::Old : Format::New;
+  if (!text::isNumeric(*version)) return Format::Unknown;
+  return text::numericValue(*version) < newFormatVersion ? Format::Old : Format::New;
 }
 
 std::string HandBack::RetrieveCycle() {
@@ -27,28 +25,32 @@ std::string HandBack::RetrieveCycle() {
       case Format::New: result = CycleChanged() ? writer_.RetrieveNewCycle() : writer_.RetrieveCycleVersion03(); break;
       case Format::Unknown: break;
     }
-    if (cycle_.reference) cycle_.reference->loadXML(result);
+    cycle_.reference.setWritten(result, result.empty() ? CycleFacts() : writer_.writtenFacts());
+    cycle_.differs.reset();
     return result;
   });
 }
 
 bool HandBack::CycleChanged() {
-  return guarded(errors_, "CycleChanged", [this] { return recomputeChanged(); });
+  return guarded(errors_, "CycleChanged", [this] {
+    cycle_.changed = false;
+    if (!cycle_.differs) cycle_.differs = compared();
+    cycle_.changed = cycle_.differs.value_or(false);
+    return cycle_.changed;
+  });
 }
 
-bool HandBack::recomputeChanged() {
-  cycle_.changed = false;
-  if (!cycle_.reference) return false;
+// Whether the cycle differs from the reference; nothing when it could not be written.
+std::optional<bool> HandBack::compared() {
   std::string produced;
   switch (referenceFormat()) {
     case Format::Old: produced = writer_.RetrieveCycleVersion02(); break;
     case Format::New: produced = writer_.RetrieveCycleVersion03(); break;
     case Format::Unknown: break;
   }
-  if (!produced.empty()) {
-    cycle_.changed = codePage_.fromUtf8(produced) != codePage_.fromUtf8(cycle_.reference->xml());
-  }
-  return cycle_.changed;
+  if (produced.empty()) return std::nullopt;
+  if (cycle_.reference.isWrittenAs(produced, xmlDocuments_)) return false;
+  return codePage_.fromUtf8(produced) != codePage_.fromUtf8(cycle_.reference.xml(xmlDocuments_));
 }
 
 }  // namespace mavCycEd

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "cycle/CycleState.h"
 #include "cycle/CycleWriter.h"
 #include "platform/CodePage.h"
 #include "platform/ErrorSink.h"
+#include "platform/XmlDocument.h"
 
 namespace mavCycEd {
 
@@ -13,8 +15,9 @@ namespace mavCycEd {
 /// writer runs; a version that is no number decides for none, and the result is empty.
 class HandBack {
  public:
-  HandBack(CycleState& cycle, CycleWriter& writer, const platform::CodePage& codePage, ErrorSink& errors)
-      : cycle_(cycle), writer_(writer), codePage_(codePage), errors_(errors) {}
+  HandBack(CycleState& cycle, CycleWriter& writer, platform::XmlDocumentFactory& xmlDocuments,
+           const platform::CodePage& codePage, ErrorSink& errors)
+      : cycle_(cycle), writer_(writer), xmlDocuments_(xmlDocuments), codePage_(codePage), errors_(errors) {}
 
   /// The cycle in the newest format; it becomes the reference document.
   std::string RetrieveCycle();
@@ -24,10 +27,11 @@ class HandBack {
  private:
   enum class Format { Old, New, Unknown };
   Format referenceFormat() const;
-  bool recomputeChanged();
+  std::optional<bool> compared();
 
   CycleState& cycle_;
   CycleWriter& writer_;
+  platform::XmlDocumentFactory& xmlDocuments_;
   const platform::CodePage& codePage_;
   ErrorSink& errors_;
 };

@@ -27,6 +27,7 @@ void setUpScreen(const ControlScreen& screen) {
 void disconnectScreen(const ControlScreen& screen) {
   screen.txtCycleDescription.setEvents({});
   screen.lstAtomSequence.setEvents({});
+  screen.lstAtomSequence.clear();  // what it shows is the control's
   screen.cmdInset.setEvents({});
   screen.cmdReplace.setEvents({});
   screen.cmdDelete.setEvents({});

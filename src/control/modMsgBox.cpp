@@ -9,8 +9,9 @@ namespace mavCycEd {
 using text::crLf;
 
 int modMsgBox::messageBox(platform::WindowHandle owner, std::string_view message, std::string_view caption, int flags) {
+  if (ended_) return platform::NoButton;
   const int pressed = service_.messageBox(owner, message, caption, flags);
-  if (pressed != platform::NoButton) return pressed;
+  if (pressed != platform::NoButton || ended_) return pressed;
 
   std::string failure;
   if (const std::int32_t code = systemMessage_.lastErrorCode(); code != 0) {

@@ -18,6 +18,9 @@ class modMsgBox : public platform::MessageBox {
   /// Shows a message and returns the button that was pressed; NoButton after a failure, which the user is told of.
   int messageBox(platform::WindowHandle owner, std::string_view message, std::string_view caption, int flags) override;
 
+  /// From now on no message is shown.
+  void end() { ended_ = true; }
+
   /// The window handle of a dialog.
   static platform::WindowHandle formHwnd(const platform::ModalDialog& form) { return form.hWnd(); }
 
@@ -25,6 +28,7 @@ class modMsgBox : public platform::MessageBox {
   platform::MessageBox& service_;
   const platform::SystemMessage& systemMessage_;
   modErr& errors_;
+  bool ended_ = false;
 };
 
 }  // namespace mavCycEd

@@ -2,10 +2,9 @@
 
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "cycle/CycleText.h"
-#include "cycle/SequenceDisplay.h"
+#include "platform/RunTimeError.h"
 #include "text/LineEnds.h"
 #include "text/Strings.h"
 
@@ -15,16 +14,9 @@ using platform::XmlNode;
 
 namespace {
 
-// The parameters of an ATOM element as one text: name, ";" and value for each, carriage returns between them.
-std::string parameterText(const XmlNode& atom) {
-  std::string parameters;
-  for (const XmlNode& parameter : atom.selectNodes("PARAMETERS/PARAMETER")) {
-    const std::string name = parameter.selectSingleNode("PARAMNAME").text();
-    if (!parameters.empty()) parameters += '\r';
-    parameters.append(name).append(";").append(parameter.selectSingleNode("PARAMVALUE").text());
-  }
-  if (parameters.starts_with(';')) parameters.erase(0, 1);
-  return parameters;
+std::string shownDescription(std::string_view text) {
+  const std::string unmarked = text::replaceAll(text, descriptionMarker, "");
+  return ReverseDescription(text::replaceAll(unmarked, "\n", text::crLf));
 }
 
 // The value in a line of a parameter text: what stands behind its first ";", the whole line when it has none.
@@ -40,36 +32,20 @@ void CycleLoader::FillCycle() {
     screen_.txtCycleDescription.setText("");
     screen_.lstVariables.clear();
     screen_.lstAtomSequence.clear();
-    platform::XmlDocument& document = *cycle_.working;
-    const XmlNode variables = document.selectSingleNode("CYCLE/VARIABLES");
-    if (!variables) return;
-    fillDescription(document.selectSingleNode("CYCLE/DESCRIPTION"));
+    LoadedCycle cycle = std::exchange(cycle_.working, {});
+    if (!cycle.variables) return;
+    screen_.txtCycleDescription.setText(shownDescription(cycle.description.value_or("")));
+    screen_.lstVariables.assign(*std::move(cycle.variables));
 
-    std::vector<std::string> variableTexts;
-    for (const XmlNode& variable : variables.childNodes()) variableTexts.push_back(variable.text());
-    screen_.lstVariables.assign(std::move(variableTexts));
-
-    fillAtomLines(document);
-    rebuildSequenceList(cycle_, screen_.lstAtomSequence);
+    if (!cycle.hasAtoms) throw RunTimeError(ErrorNumber::ObjectNotSet);
+    for (LoadedAtomLine& line : cycle.atomLines) {
+      cycle_.atoms.Add(std::move(line.name), {}, {}, std::move(line.parameters));
+    }
+    if (cycle.lacksElement) throw RunTimeError(ErrorNumber::ObjectNotSet);
+    cycle_.display.rebuild();
+    screen_.lstAtomSequence.showLines(cycle_.display);
     if (screen_.lstAtomSequence.itemCount() > 0) screen_.lstAtomSequence.setIndex(0);
   });
-}
-
-void CycleLoader::fillDescription(const XmlNode& description) {
-  std::string text;
-  if (description) {
-    text = text::replaceAll(description.text(), descriptionMarker, "");
-    text = text::replaceAll(text, "\n", text::crLf);
-  }
-  screen_.txtCycleDescription.setText(ReverseDescription(text));
-}
-
-void CycleLoader::fillAtomLines(platform::XmlDocument& document) {
-  const XmlNode atoms = document.selectSingleNode("CYCLE/ATOMSEQUENCE/ATOMS");
-  for (const XmlNode& element : atoms.selectNodes("ATOM")) {
-    std::string name = element.selectSingleNode("ATOMNAME").text();
-    cycle_.atoms.Add(std::move(name), {}, {}, parameterText(element));
-  }
 }
 
 void CycleLoader::lstAtomSequence_Click() {

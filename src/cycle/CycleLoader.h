@@ -14,9 +14,10 @@ class CycleLoader {
               platform::ValueListActiveX& GrdAtom, ErrorSink& errors)
       : cycle_(cycle), screen_(screen), cboAtom_(cboAtom), grdAtom_(GrdAtom), errors_(errors) {}
 
-  /// Fills the description, the variables, the atom lines and the sequence list from the working cycle document, and
-  /// selects the first line. It adds to the atom lines: the caller hands them over empty. A document without VARIABLES
-  /// loads nothing; an element that is missing further down ends the loading there, and what was filled stays.
+  /// Fills the description, the variables, the atom lines and the sequence list from the working cycle document, which
+  /// is used up by this, and selects the first line. It adds to the atom lines: the caller hands them over empty. A
+  /// document without VARIABLES loads nothing; an element that is missing further down ends the loading there, and what
+  /// was filled stays.
   void FillCycle();
   /// Shows the selected atom line in the atom picker and in the parameter grid.
   void lstAtomSequence_Click();
@@ -24,8 +25,6 @@ class CycleLoader {
   void lstAtomSequence_DblClick();
 
  private:
-  void fillDescription(const platform::XmlNode& description);
-  void fillAtomLines(platform::XmlDocument& document);
   void pickAtom(std::string_view name);
 
   CycleState& cycle_;

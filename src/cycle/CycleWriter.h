@@ -26,19 +26,19 @@ class CycleWriter {
   /// Version 03 as the host gets it: `Created` of the reference document, `Modified` now.
   std::string RetrieveNewCycle();
 
+  /// What the document that was written last says of itself; nothing where it is empty.
+  const CycleFacts& writtenFacts() const { return writtenFacts_; }
+
  private:
-  struct Timestamps {
-    std::string created;
-    std::string modified;
-  };
   enum class ModifiedStamp { Kept, Renewed };
 
-  Timestamps timestamps(ModifiedStamp modified) const;
+  std::string version02();
   std::string version03(ModifiedStamp modified);
+  template <typename Complete>
+  std::string written(std::string_view description, CycleFacts facts, const Complete& complete);
+  CycleFacts newFormatFacts(ModifiedStamp modified) const;
   bool isSequenceEmpty() const;
   std::string description() const;
-  std::string documentText(std::string_view version) const;
-  void appendVariables(std::string& text) const;
 
   void AppendDescriptionNode(platform::XmlDocument& document, std::string_view description);
   void AppendDescriptionNode03(platform::XmlDocument& document, std::string_view description);
@@ -49,6 +49,7 @@ class CycleWriter {
   platform::XmlDocumentFactory& xmlDocuments_;
   const platform::Clock& clock_;
   ErrorSink& errors_;
+  CycleFacts writtenFacts_;
 };
 
 }  // namespace mavCycEd

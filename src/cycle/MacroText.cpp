@@ -58,7 +58,7 @@ void MacroText::FillMacro(std::string_view text) {
       }
     }
     screen_.txtCycleDescription.setText(description);
-    cycle_.changed = true;
+    cycle_.edited();
   });
 }
 

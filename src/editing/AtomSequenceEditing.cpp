@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "cycle/SequenceDisplay.h"
-
 namespace mavCycEd {
 namespace {
 
@@ -35,12 +33,12 @@ void AtomSequenceEditing::cmdInset_Click() {
   guarded(errors_, "cmdInset_Click", [this] {
     std::string name = screen_.cboAtom.text();
     if (name.empty() || !valuesStand()) return;
-    cycle_.changed = true;
+    cycle_.edited();
     const int position = screen_.lstAtomSequence.index() + 1;
     std::string parameters = ParamFiller();
     if (position >= 1) {
       insertBehind(position, std::move(name), std::move(parameters));
-      lstRefresh();
+      lstRefresh(position);
     } else {
       append(std::move(name), std::move(parameters));
     }
@@ -65,9 +63,7 @@ void AtomSequenceEditing::insertBehind(int position, std::string name, std::stri
   cAtoms& atoms = cycle_.atoms;
   atoms.Add({}, {}, {}, std::string());
   for (int j = atoms.Count(); j >= position + 2; --j) {
-    const cAtom& above = atoms.Item(j - 1);
-    atoms.Item(j).setAtomName(above.AtomName());
-    atoms.Item(j).setAtomParameters(above.AtomParameters());
+    atoms.Item(j).takeNameAndParameters(atoms.Item(j - 1));
   }
   cAtom& inserted = atoms.Item(position + 1);
   inserted.setAtomName(std::move(name));
@@ -75,8 +71,13 @@ void AtomSequenceEditing::insertBehind(int position, std::string name, std::stri
 }
 
 void AtomSequenceEditing::append(std::string name, std::string parameters) {
-  const cAtom& added = cycle_.atoms.Add(std::move(name), {}, {}, std::move(parameters));
-  screen_.lstAtomSequence.addItem(nextDisplayLine(cycle_, cycle_.atoms.Count(), added.AtomName()));
+  cycle_.atoms.Add(std::move(name), {}, {}, std::move(parameters));
+  cycle_.display.append();
+  if (cycle_.display.count() == 1) {
+    screen_.lstAtomSequence.showLines(cycle_.display);
+  } else {
+    screen_.lstAtomSequence.lineAdded();
+  }
 }
 
 void AtomSequenceEditing::cmdReplace_Click() {
@@ -84,12 +85,12 @@ void AtomSequenceEditing::cmdReplace_Click() {
     if (!valuesStand()) return;
     const int index = screen_.lstAtomSequence.index();
     if (index < 0) return;
-    cycle_.changed = true;
-    const int position = index + 1;
-    cAtom& atom = cycle_.atoms.Item(position);
+    cycle_.edited();
+    cAtom& atom = cycle_.atoms.Item(index + 1);
     atom.setAtomName(screen_.cboAtom.text());
     atom.setAtomParameters(ParamFiller());
-    screen_.lstAtomSequence.setItemText(index, displayLine(position, 1, atom.AtomName()));
+    cycle_.display.replace(index);
+    screen_.lstAtomSequence.lineChanged(index);
   });
 }
 
@@ -97,9 +98,11 @@ void AtomSequenceEditing::cmdDelete_Click() {
   guarded(errors_, "cmdDelete_Click", [this] {
     const int index = screen_.lstAtomSequence.index();
     if (index < 0) return;
-    cycle_.changed = true;
+    cycle_.edited();
+    const std::string name = cycle_.atoms.Item(index + 1).AtomName();
     cycle_.atoms.Remove(index + 1);
-    rebuildSequenceList(cycle_, screen_.lstAtomSequence);
+    cycle_.display.rebuildWithout(index, name);
+    screen_.lstAtomSequence.showLines(cycle_.display);
     const int count = screen_.lstAtomSequence.itemCount();
     if (index != count) {
       if (count > 0) screen_.lstAtomSequence.setIndex(index);
@@ -109,8 +112,12 @@ void AtomSequenceEditing::cmdDelete_Click() {
   });
 }
 
-void AtomSequenceEditing::lstRefresh() {
-  guarded(errors_, "lstRefresh", [this] { rebuildSequenceList(cycle_, screen_.lstAtomSequence); });
+// Shows the list anew after an atom line was put in at `inserted`.
+void AtomSequenceEditing::lstRefresh(int inserted) {
+  guarded(errors_, "lstRefresh", [&] {
+    cycle_.display.rebuildWith(inserted);
+    screen_.lstAtomSequence.showLines(cycle_.display);
+  });
 }
 
 std::string AtomSequenceEditing::ParamFiller() {

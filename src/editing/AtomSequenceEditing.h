@@ -51,7 +51,7 @@ class AtomSequenceEditing {
 
  private:
   bool valuesStand();
-  void lstRefresh();
+  void lstRefresh(int inserted);
   std::string ParamFiller();
   void insertBehind(int position, std::string name, std::string parameters);
   void append(std::string name, std::string parameters);

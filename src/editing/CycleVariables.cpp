@@ -35,6 +35,18 @@ std::string_view shownParameterName(std::string_view segment) {
   return text::withoutLastCharacter(segment.substr(0, segment.find(';')));
 }
 
+/// Notes which dialog is shown while it is.
+class Shown {
+ public:
+  Shown(VariableDialogScreen*& place, VariableDialogScreen& screen) : place_(place) { place = &screen; }
+  ~Shown() { place_ = nullptr; }
+  Shown(const Shown&) = delete;
+  Shown& operator=(const Shown&) = delete;
+
+ private:
+  VariableDialogScreen*& place_;
+};
+
 }  // namespace
 
 std::string CycleVariables::variableInUse(std::string& variable) {
@@ -78,7 +90,7 @@ void CycleVariables::cmdDel_Click() {
     if (index < 0) return;
     const std::string entry = surroundings_.lstVariables.itemText(index);
     if (tellUses(entry)) return;
-    cycle_.changed = true;
+    cycle_.edited();
     extraValues_.Delete_Extra_Udons(entry);
     surroundings_.lstVariables.removeItem(index);
     surroundings_.lstVariables.setIndex(index - 1);
@@ -88,7 +100,7 @@ void CycleVariables::cmdDel_Click() {
 void CycleVariables::cmdIns_Click() {
   guarded(errors_, "cmdIns_Click", [this] {
     if (surroundings_.cboAtom.text().empty()) return;
-    cycle_.changed = true;
+    cycle_.edited();
     const int index = surroundings_.lstVariables.index();
     exchange_ = DialogExchange();
     runDialog(false);
@@ -115,7 +127,7 @@ void CycleVariables::lstVariables_DblClick() {
     if (index < 0) return;
     const std::string entry = surroundings_.lstVariables.itemText(index);
     const bool inUse = tellUses(entry);
-    cycle_.changed = true;
+    cycle_.edited();
     exchange_ = {true, entry, {}};
     runDialog(inUse);
     // Also after a cancelled dialog: the edited variable is offered again when the grid is next refilled.
@@ -132,12 +144,19 @@ void CycleVariables::lstVariables_DblClick() {
   });
 }
 
+void CycleVariables::end() {
+  ended_ = true;
+  if (open_ != nullptr) open_->frmparams().close();
+}
+
 void CycleVariables::runDialog(bool nameLocked) {
+  if (ended_) return;
   const std::unique_ptr<VariableDialogScreen> screen = surroundings_.dialogs.createVariableDialog();
   frmparams dialog(*screen, exchange_, surroundings_.catalogue, surroundings_.provider, surroundings_.messages,
                    errors_);
   dialog.Form_Load();
   if (nameLocked) dialog.lockName();
+  const Shown shown(open_, *screen);
   dialog.show();
 }
 

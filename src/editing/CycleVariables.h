@@ -47,6 +47,8 @@ class CycleVariables {
   void cmdIns_Click();
   /// Edits the selected variable through the dialog; the name of one in use is locked.
   void lstVariables_DblClick();
+  /// An open dialog is closed, and no other is opened.
+  void end();
 
  private:
   std::string variableInUse(std::string& variable);
@@ -60,6 +62,8 @@ class CycleVariables {
   std::function<void()> cboAtom_Click_;
   ErrorSink& errors_;
   DialogExchange exchange_;
+  VariableDialogScreen* open_ = nullptr;  // the dialog that is shown
+  bool ended_ = false;
 };
 
 }  // namespace mavCycEd

@@ -4,11 +4,12 @@
 
 #include <utility>
 
-#include "libxml2/CharacterRules.h"
 #include "libxml2/DocumentReader.h"
 #include "libxml2/DocumentWriter.h"
+#include "libxml2/Layout.h"
 #include "libxml2/Tree.h"
 #include "platform/RunTimeError.h"
+#include "text/XmlText.h"
 
 namespace mavCycEd::libxml2 {
 
@@ -51,7 +52,8 @@ QualifiedName qualifiedName(std::string_view name) {
 
 // Whether this is a name without a colon.
 bool isPlainName(const std::string& name) {
-  return name.find('\0') == std::string::npos && isXmlText(name) && xmlValidateNCName(toXml(name.c_str()), 0) == 0;
+  return name.find('\0') == std::string::npos && text::isXmlText(name) &&
+         xmlValidateNCName(toXml(name.c_str()), 0) == 0;
 }
 
 std::string_view prefixOf(const xmlNs* space) {
@@ -142,7 +144,7 @@ std::string Libxml2Document::text(Handle handle) const {
 
 void Libxml2Document::setText(Handle handle, std::string_view text) {
   xmlNode& element = elementOf(handle);
-  const std::string content = toXmlText(text);
+  const std::string content = text::toXmlText(text);
   Owner<xmlNode> node;
   if (!isLayout(content.c_str(), false) && !content.empty()) node = makeText(*tree_.document, content);
   removeContent(element);
@@ -207,7 +209,7 @@ std::optional<std::string> Libxml2Document::attribute(Handle handle, std::string
 void Libxml2Document::setAttribute(Handle handle, std::string_view attributeName, std::string_view value) {
   xmlNode& element = elementOf(handle);
   const QualifiedName name = qualifiedName(attributeName);
-  const std::string content = toXmlText(value);
+  const std::string content = text::toXmlText(value);
   xmlAttr* attribute = findAttribute(element, name);
   if (attribute == nullptr) {
     const bool hasPrefix = attributeName.find(':') != std::string_view::npos;

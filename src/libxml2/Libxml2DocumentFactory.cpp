@@ -2,6 +2,7 @@
 
 #include <libxml/parser.h>
 
+#include "libxml2/ContentReader.h"
 #include "libxml2/Libxml2Document.h"
 
 namespace mavCycEd::libxml2 {
@@ -18,6 +19,11 @@ void readyLibrary() {
 std::unique_ptr<platform::XmlDocument> Libxml2DocumentFactory::createDocument() {
   readyLibrary();
   return std::make_unique<Libxml2Document>();
+}
+
+bool Libxml2DocumentFactory::readDocument(std::string_view text, platform::XmlContent& content) {
+  readyLibrary();
+  return readContent(text, content);
 }
 
 }  // namespace mavCycEd::libxml2

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
 
 #include "platform/XmlDocument.h"
 
@@ -10,6 +11,7 @@ namespace mavCycEd::libxml2 {
 class Libxml2DocumentFactory final : public platform::XmlDocumentFactory {
  public:
   std::unique_ptr<platform::XmlDocument> createDocument() override;
+  bool readDocument(std::string_view text, platform::XmlContent& content) override;
 };
 
 }  // namespace mavCycEd::libxml2

@@ -4,9 +4,9 @@
 #include <cstring>
 #include <utility>
 
-#include "libxml2/CharacterRules.h"
 #include "platform/RunTimeError.h"
 #include "text/Strings.h"
+#include "text/XmlText.h"
 
 namespace mavCycEd::libxml2 {
 namespace {
@@ -44,7 +44,7 @@ bool needsEscape(const xmlChar* readName) {
 }
 
 void escapeName(xmlNs& declaration) {
-  std::string name = toXmlText(fromXml(declaration.href));
+  std::string name = text::toXmlText(fromXml(declaration.href));
   for (const auto& [character, escape] : escapes) {
     if (character != "&") name = text::replaceAll(name, character, escape);
   }

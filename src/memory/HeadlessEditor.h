@@ -45,15 +45,15 @@ class HeadlessEditor {
  public:
   explicit HeadlessEditor(const PlatformServices& services, CycleEditorErrorHandler onError = {},
                           std::shared_ptr<AtomListProvider> provider = nullptr)
-      : control_(screen_.controls(), services, std::move(onError), std::move(provider)) {}
+      : control_(screen_->controls(), services, std::move(onError), std::move(provider), screen_) {}
 
-  MemoryScreen& screen() { return screen_; }
-  const MemoryScreen& screen() const { return screen_; }
+  MemoryScreen& screen() { return *screen_; }
+  const MemoryScreen& screen() const { return *screen_; }
   EditorControl& control() { return control_; }
   const EditorControl& control() const { return control_; }
 
  private:
-  MemoryScreen screen_;
+  std::shared_ptr<MemoryScreen> screen_ = std::make_shared<MemoryScreen>();
   EditorControl control_;
 };
 

@@ -14,7 +14,28 @@ std::size_t MemoryListBox::checked(int index) const {
 
 void MemoryListBox::assign(std::vector<std::string> items) {
   items_ = std::move(items);
+  lines_ = nullptr;
   index_ = -1;
+}
+
+void MemoryListBox::showLines(const platform::ListLines& lines) {
+  items_.clear();
+  lines_ = &lines;
+  lineCount_ = lines.count();
+  index_ = -1;
+}
+
+void MemoryListBox::lineAdded() { ++lineCount_; }
+
+std::string MemoryListBox::itemText(int index) const {
+  const std::size_t at = checked(index);
+  return lines_ != nullptr ? lines_->text(index) : items_[at];
+}
+
+std::vector<std::string> MemoryListBox::items() const {
+  std::vector<std::string> texts;
+  for (int i = 0; i < itemCount(); ++i) texts.push_back(itemText(i));
+  return texts;
 }
 
 void MemoryListBox::removeItem(int index) {

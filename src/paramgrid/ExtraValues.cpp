@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "paramgrid/ObjectTests.h"
@@ -66,13 +68,17 @@ void ExtraValues::forEachFittingRow(std::string_view unit, const Change& change)
 void ExtraValues::Add_Extra_Udons(std::string_view variable) {
   guarded(errors_, "Add_Extra_Udons", [&] {
     const std::optional<Variable> added = parsed(variable);
-    if (!added) return;
-    forEachFittingRow(added->unit, [&](int row, ParamRowInfo& info) {
-      appendName(info.ExtraValues, added->name);
-      if (!hasPickList(info, added->unit)) return;
-      appendName(info.Items, added->name);
-      grdAtom_.setPickList(row, info.Items);
-    });
+    if (added) offer(added->name, added->unit);
+  });
+}
+
+// Offers names, separated by ";", to the rows of a unit.
+void ExtraValues::offer(std::string_view names, std::string_view unit) {
+  forEachFittingRow(unit, [&](int row, ParamRowInfo& info) {
+    appendName(info.ExtraValues, names);
+    if (!hasPickList(info, unit)) return;
+    appendName(info.Items, names);
+    grdAtom_.setPickList(row, info.Items);
   });
 }
 
@@ -94,7 +100,13 @@ void ExtraValues::Delete_Extra_Udons(std::string_view variable) {
 
 void ExtraValues::Update_Extra_Params() {
   guarded(errors_, "Update_Extra_Params", [this] {
-    for (int i = 0; i < lstVariables_.itemCount(); ++i) Add_Extra_Udons(lstVariables_.itemText(i));
+    // The names of all variables of a unit at once: there may be a great many.
+    std::unordered_map<std::string, std::string> namesOfUnit;
+    for (int i = 0; i < lstVariables_.itemCount(); ++i) {
+      const std::optional<Variable> variable = parsed(lstVariables_.itemText(i));
+      if (variable) appendName(namesOfUnit[variable->unit], variable->name);
+    }
+    for (const auto& [unit, names] : namesOfUnit) offer(names, unit);
   });
 }
 

@@ -27,6 +27,7 @@ class ExtraValues {
   void Update_Extra_Params();
 
  private:
+  void offer(std::string_view names, std::string_view unit);
   template <typename Change>
   void forEachFittingRow(std::string_view unit, const Change& change);
 

@@ -69,8 +69,9 @@ void OfferedValues::Update_Popup_Menu() {
     Add_Extra_Keywords(values);
 
     modControlArray::deleteItems(mnuSubParam_);
-    mnuSubParam_.setItemCaption(0, std::string(defaultMark) + defaultValue);
-    std::unordered_set<std::string_view> shown{defaultValue, ""};
+    const std::string defaultCaption = std::string(defaultMark) + defaultValue;
+    mnuSubParam_.setItemCaption(0, defaultCaption);
+    std::unordered_set<std::string_view> shown{defaultCaption, defaultValue, ""};
     for (const std::string& value : values) {
       if (!shown.insert(value).second) continue;
       const int place = modControlArray::firstFreePlace(mnuSubParam_);

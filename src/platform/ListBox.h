@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/Font.h"
+#include "platform/ListLines.h"
 
 namespace mavCycEd::platform {
 
@@ -28,6 +29,13 @@ class ListBox {
   virtual void clear() = 0;
   /// Replaces all items at once (one rebuild, whatever their number) and removes the selection. Raises nothing.
   virtual void assign(std::vector<std::string> items) = 0;
+  /// Shows lines that their owner keeps, in place of items of its own, until clear() or assign(), and removes the
+  /// selection. The owner calls it again when the lines changed as a whole. Raises nothing.
+  virtual void showLines(const ListLines& lines) = 0;
+  /// The lines that are shown have one more at the end; the selection stays.
+  virtual void lineAdded() = 0;
+  /// A line that is shown has another text; the selection stays.
+  virtual void lineChanged(int index) = 0;
   /// Adds an item at the end; the selection stays.
   virtual void addItem(std::string_view text) = 0;
   /// Removes the item at `index`; a selection behind it moves along, a selection on it is gone. Raises nothing.

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/XmlContent.h"
 #include "platform/XmlNode.h"
 
 namespace mavCycEd::platform {
@@ -45,6 +46,9 @@ class XmlDocumentFactory {
 
   /// A new, empty document.
   virtual std::unique_ptr<XmlDocument> createDocument() = 0;
+  /// Reads a text once from start to end, without making a document: `content` hears what XmlDocument::loadXML would
+  /// load. False when the text holds no document; what was heard before that is of no meaning then.
+  virtual bool readDocument(std::string_view text, XmlContent& content) = 0;
 };
 
 }  // namespace mavCycEd::platform

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <algorithm>
 #include <optional>
 
@@ -63,8 +64,11 @@ void CellEdit::open(int row) {
   view_.edit(index_);
   editor_ = view_.indexWidget(index_);
   if (!editor_) return;
-  editor_->installEventFilter(this);
   QLineEdit& line = lineOf(*editor_);
+  for (QWidget* const part : {editor_.data(), static_cast<QWidget*>(&line)}) {
+    part->setMouseTracking(true);
+    part->installEventFilter(this);
+  }
   line.selectAll();
   connect(&line, &QLineEdit::textEdited, this, &CellEdit::onTyped);
   if (auto* const combo = qobject_cast<QComboBox*>(editor_)) {
@@ -111,6 +115,8 @@ void CellEdit::onPicked(int item) {
   close();
   model_.setCell(ValueListModel::valueColumn, pickedRow, value);
   emit picked(pickedRow);
+  // The user is still in this cell, unless the answer to the pick led elsewhere.
+  if (self && view_.hasFocus() && model_.rows().currentRow() == pickedRow) view_.editCurrentRow();
 }
 
 void CellEdit::end() {
@@ -150,10 +156,11 @@ void CellEdit::close() {
   QWidget* const editor = editor_;
   editor_.clear();
   editor->removeEventFilter(this);
+  lineOf(*editor).removeEventFilter(this);
   lineOf(*editor).disconnect(this);
   editor->disconnect(this);
   view_.removeEditor(editor);
-  view_.showCurrentRow();
+  view_.markCurrentRow();
 }
 
 void CellEdit::leave(Step step) {
@@ -164,6 +171,13 @@ void CellEdit::leave(Step step) {
 }
 
 bool CellEdit::eventFilter(QObject* watched, QEvent* event) {
+  // The editor covers its cell: where the pointer is over it, the grid hears of it all the same.
+  if (event->type() == QEvent::MouseMove && isOpen()) {
+    const QPoint place = static_cast<const QMouseEvent&>(*event).position().toPoint();
+    const QPointer<QObject> gone(watched);
+    view_.pointAt(static_cast<QWidget*>(watched)->mapTo(view_.viewport(), place));
+    return gone.isNull();
+  }
   if (watched != editor_) return QObject::eventFilter(watched, event);
   switch (event->type()) {
     case QEvent::ShortcutOverride:

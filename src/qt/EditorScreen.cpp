@@ -28,7 +28,7 @@ void layOutList(QGroupBox& frame, QWidget* list, std::initializer_list<QPushButt
 }  // namespace
 
 EditorScreen::EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer)
-    : control_(control), tmrUpdateGrid_(std::move(gridTimer)) {
+    : control_(control), content_(new QWidget(&control)), tmrUpdateGrid_(std::move(gridTimer)) {
   gate_.setEndEdit([this] { GrdAtom_.endEdit(); });
   mnuSubParam_.setPlace([this] { return GrdAtom_.view()->menuPlace(); });
   if (!tmrUpdateGrid_) {
@@ -41,6 +41,19 @@ EditorScreen::EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gr
   connectKeys();
   setTabOrder();
   nameForPeople();
+}
+
+void WidgetRelease::operator()(QWidget* widget) const {
+  if (later) {
+    widget->deleteLater();
+  } else {
+    delete widget;
+  }
+}
+
+void EditorScreen::outliveControl() {
+  content_.get_deleter().later = true;
+  content_->setParent(nullptr);
 }
 
 ControlScreen EditorScreen::controls() {
@@ -71,15 +84,18 @@ void EditorScreen::layOut() {
   cycle->setContentsMargins(frameMargins);
   cycle->addWidget(parts);
 
-  auto* const halves = new QSplitter(Qt::Horizontal, &control_);
+  auto* const halves = new QSplitter(Qt::Horizontal, content_.get());
   halves->setChildrenCollapsible(false);
   halves->addWidget(fraSelectedMacro_.widget());
   halves->addWidget(fraCyclePart_.widget());
   halves->setStretchFactor(0, 4);
   halves->setStretchFactor(1, 5);
+  auto* const inside = new QVBoxLayout(content_.get());
+  inside->setContentsMargins(frameMargins);
+  inside->addWidget(halves);
   auto* const whole = new QVBoxLayout(&control_);
-  whole->setContentsMargins(frameMargins);
-  whole->addWidget(halves);
+  whole->setContentsMargins({});
+  whole->addWidget(content_.get());
 }
 
 void EditorScreen::layOutSelectedMacro() {

@@ -17,12 +17,22 @@
 
 namespace mavCycEd::qt {
 
+/// Destroys a widget at once, or later, where it may be in the middle of an event.
+struct WidgetRelease {
+  bool later = false;
+  void operator()(QWidget* widget) const;
+};
+
 /// The screen of the editor: its child controls, and where they stand in the control's widget.
 class EditorScreen {
  public:
-  /// Fills `control` with widgets, which it owns. Without a grid timer the screen has its own, which waits while a
-  /// value is being edited.
+  /// Fills `control` with widgets, which the screen owns. Without a grid timer the screen has its own, which waits
+  /// while a value is being edited.
   EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer);
+
+  /// The control goes while one of its procedures is still running: the widgets leave it, and stay until the event
+  /// that they are answering has been dealt with.
+  void outliveControl();
 
   ControlScreen controls();
 
@@ -39,12 +49,13 @@ class EditorScreen {
   void nameForPeople();
 
   QWidget& control_;
+  std::unique_ptr<QWidget, WidgetRelease> content_;  // all widgets are in it; it goes last
   CommandGate gate_;
-  QtFrame fraSelectedMacro_{"fraSelectedMacro", &control_};
+  QtFrame fraSelectedMacro_{"fraSelectedMacro", content_.get()};
   QtComboBox cboAtom_{gate_, QtComboBox::Mode::PickOnly, "cboAtom", fraSelectedMacro_.widget()};
   QtValueList GrdAtom_{"GrdAtom", fraSelectedMacro_.widget()};
   QtButton cmdDefault_{gate_, "cmdDefault", fraSelectedMacro_.widget()};
-  QtFrame fraCyclePart_{"fraCyclePart", &control_};
+  QtFrame fraCyclePart_{"fraCyclePart", content_.get()};
   QtFrame fraDescription_{"fraDescription", fraCyclePart_.widget()};
   QtTextBox txtCycleDescription_{"txtCycleDescription", fraDescription_.widget()};
   QtFrame fraAtom_{"fraAtom", fraCyclePart_.widget()};
@@ -56,7 +67,7 @@ class EditorScreen {
   QtListBox lstVariables_{gate_, "lstVariables", fraVariables_.widget()};
   QtButton cmdIns_{gate_, "cmdIns", fraVariables_.widget()};
   QtButton cmdDel_{gate_, "cmdDel", fraVariables_.widget()};
-  QtPopupMenu mnuSubParam_{gate_, "mnuParam", &control_};
+  QtPopupMenu mnuSubParam_{gate_, "mnuParam", content_.get()};
   std::shared_ptr<platform::Timer> tmrUpdateGrid_;
   QtVariableDialogs variableDialogs_{control_};
 };

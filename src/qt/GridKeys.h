@@ -7,10 +7,13 @@ namespace mavCycEd::qt {
 /// Whether a key is pressed alone; the keypad's keys count as all others.
 inline bool isPlain(const QKeyEvent& key) { return (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier; }
 
-/// Whether a key opens the editor of the current row's value.
-inline bool opensEditor(const QKeyEvent& key) {
-  return isPlain(key) && (key.key() == Qt::Key_F2 || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+/// Whether a key is Enter, one of the two.
+inline bool isEnter(const QKeyEvent& key) {
+  return isPlain(key) && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
 }
+
+/// Whether a key asks for the pop-up menu. The menu key does so by itself; not every keyboard has one.
+inline bool isMenuKey(const QKeyEvent& key) { return key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier; }
 
 /// Whether a key asks for the list of a cell: F4, or Alt with an arrow up or down.
 inline bool isListKey(const QKeyEvent& key) {

@@ -21,6 +21,9 @@ class QtListBox : public QObject, public platform::ListBox {
   void setEvents(platform::ListBoxEvents events) override { events_ = std::move(events); }
   void clear() override { assign({}); }
   void assign(std::vector<std::string> items) override { model_->assign(std::move(items)); }
+  void showLines(const platform::ListLines& lines) override { model_->showLines(lines); }
+  void lineAdded() override { model_->lineAdded(); }
+  void lineChanged(int index) override { model_->lineChanged(index); }
   void addItem(std::string_view text) override { model_->append(text); }
   void removeItem(int index) override;
   void setItemText(int index, std::string_view text) override { model_->setText(index, text); }

@@ -16,6 +16,7 @@ QtVariableDialog::QtVariableDialog(QWidget* owner) : frmparams_("frmparams", own
   gate_.setEndEdit([this] { grdParamStnd_.endEdit(); });
   mnuSyrConstant_.setPlace([this] { return grdParamStnd_.view()->menuPlace(); });
   OKButton_.widget()->setDefault(true);
+  grdParamStnd_.view()->setEnterOpens(false);  // Enter is OK
   layOut();
   setTabOrder();
   nameForPeople();

@@ -2,7 +2,26 @@
 
 #include <QPainter>
 
+#include "qt/FocusRules.h"
+
 namespace mavCycEd::qt {
+namespace {
+
+QColor between(const QColor& from, const QColor& to, float share) {
+  return QColor::fromRgbF(from.redF() + (to.redF() - from.redF()) * share,
+                          from.greenF() + (to.greenF() - from.greenF()) * share,
+                          from.blueF() + (to.blueF() - from.blueF()) * share);
+}
+
+// The colours of a selected row while the keyboard is elsewhere.
+void mute(QPalette& palette) {
+  constexpr float share = 0.4F;
+  const QColor muted = between(palette.color(QPalette::Base), palette.color(QPalette::Highlight), share);
+  palette.setColor(QPalette::Highlight, muted);
+  palette.setBrush(QPalette::HighlightedText, palette.text());
+}
+
+}  // namespace
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   constexpr int air = 3;
@@ -10,8 +29,10 @@ QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInde
 }
 
 void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  const bool marked = (option.state & QStyle::State_HasFocus) != 0 && (option.state & QStyle::State_Selected) != 0;
+  const bool selected = (option.state & QStyle::State_Selected) != 0;
+  const bool marked = selected && (option.state & QStyle::State_HasFocus) != 0;
   QStyleOptionViewItem row = option;
+  if (selected && option.widget != nullptr && !holdsFocus(*option.widget)) mute(row.palette);
   if (marked) row.state.setFlag(QStyle::State_HasFocus, false);
   paintRow(painter, row, index);
   if (!marked) return;

@@ -4,9 +4,9 @@
 
 namespace mavCycEd::qt {
 
-/// Draws the rows of lists: with some air between them, so that no style covers the lowest pixels of a text, and with a
-/// line around the selected row that has the keyboard focus. Some styles lay their own mark over the text instead,
-/// which makes it pale.
+/// Draws the rows of lists: with some air between them, so that no style covers the lowest pixels of a text, and so
+/// that one sees where the keyboard is. There the selected row has its full colour and a line around it, anywhere else
+/// it is muted. Some styles lay their own mark over the text instead, which makes it pale.
 class RowDelegate : public QStyledItemDelegate {
   Q_OBJECT
 

@@ -16,7 +16,27 @@ std::size_t TextListModel::checked(int index) const {
 void TextListModel::assign(std::vector<std::string> items) {
   beginResetModel();
   items_ = std::move(items);
+  lines_ = nullptr;
   endResetModel();
+}
+
+void TextListModel::showLines(const platform::ListLines& lines) {
+  beginResetModel();
+  items_.clear();
+  lines_ = &lines;
+  lineCount_ = lines.count();
+  endResetModel();
+}
+
+void TextListModel::lineAdded() {
+  beginInsertRows({}, count(), count());
+  ++lineCount_;
+  endInsertRows();
+}
+
+void TextListModel::lineChanged(int index) {
+  checked(index);
+  tellChange(index);
 }
 
 void TextListModel::append(std::string_view text) {
@@ -34,14 +54,26 @@ void TextListModel::remove(int index) {
 
 void TextListModel::setText(int index, std::string_view text) {
   items_[checked(index)] = text;
+  tellChange(index);
+}
+
+void TextListModel::tellChange(int index) {
   const QModelIndex changed = this->index(index);
   emit dataChanged(changed, changed);
 }
 
-const std::string& TextListModel::longest() const {
-  static const std::string none;
+std::string TextListModel::text(int index) const {
+  const std::size_t at = checked(index);
+  return lines_ != nullptr ? lines_->text(index) : items_[at];
+}
+
+std::string TextListModel::longest() const {
+  if (lines_ != nullptr) {
+    const int longest = lines_->longest();
+    return longest < 0 ? std::string() : lines_->text(longest);
+  }
   const auto found = std::ranges::max_element(items_, {}, &std::string::size);
-  return found == items_.end() ? none : *found;
+  return found == items_.end() ? std::string() : *found;
 }
 
 int TextListModel::indexOf(std::string_view text) const {
@@ -53,11 +85,10 @@ int TextListModel::rowCount(const QModelIndex& parent) const { return parent.isV
 
 QVariant TextListModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= count()) return {};
-  const std::string& text = items_[static_cast<std::size_t>(index.row())];
   switch (role) {
     case Qt::DisplayRole:
-    case Qt::EditRole: return toQt(text);
-    case ExactTextRole: return QByteArray::fromStdString(text);
+    case Qt::EditRole: return toQt(text(index.row()));
+    case ExactTextRole: return QByteArray::fromStdString(text(index.row()));
     default: return {};
   }
 }

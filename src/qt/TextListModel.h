@@ -6,10 +6,12 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/ListLines.h"
+
 namespace mavCycEd::qt {
 
-/// The items of a list box or a combo box: texts, and no object for each of them. An index beyond the list is run-time
-/// error 5.
+/// The items of a list box or a combo box: texts, and no object for each of them, or lines that somebody else keeps. An
+/// index beyond the list is run-time error 5.
 class TextListModel : public QAbstractListModel {
   Q_OBJECT
 
@@ -22,14 +24,20 @@ class TextListModel : public QAbstractListModel {
 
   /// Replaces all items: one model reset.
   virtual void assign(std::vector<std::string> items);
+  /// Shows lines in place of items: one model reset.
+  void showLines(const platform::ListLines& lines);
+  /// The lines have one more at the end.
+  void lineAdded();
+  /// A line has another text.
+  void lineChanged(int index);
   void append(std::string_view text);
   void remove(int index);
   void setText(int index, std::string_view text);
 
-  int count() const { return static_cast<int>(items_.size()); }
-  const std::string& text(int index) const { return items_[checked(index)]; }
+  int count() const { return lines_ != nullptr ? lineCount_ : static_cast<int>(items_.size()); }
+  std::string text(int index) const;
   /// The item that needs the most room, as far as its length tells; empty when there is no item.
-  const std::string& longest() const;
+  std::string longest() const;
   /// The first item of exactly this text, -1 when there is none.
   int indexOf(std::string_view text) const;
 
@@ -40,7 +48,11 @@ class TextListModel : public QAbstractListModel {
   std::size_t checked(int index) const;
 
  private:
+  void tellChange(int index);
+
   std::vector<std::string> items_;
+  const platform::ListLines* lines_ = nullptr;  // null: the items are its own
+  int lineCount_ = 0;
 };
 
 }  // namespace mavCycEd::qt

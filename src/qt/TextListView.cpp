@@ -1,10 +1,13 @@
 #include "qt/TextListView.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include "qt/GridKeys.h"
 #include "qt/RowDelegate.h"
 #include "qt/Text.h"
 
@@ -41,6 +44,7 @@ TextListView::TextListView(TextListModel* model, QWidget* parent) : QListView(pa
   setSelectionMode(SingleSelection);
   setTextElideMode(Qt::ElideNone);
   setHorizontalScrollMode(ScrollPerPixel);
+  setAutoScroll(false);  // bringIntoView() does it, once for any number of changes
   connect(model, &TextListModel::dataChanged, this, [this] { scheduleDelayedItemsLayout(); });
 }
 
@@ -50,13 +54,49 @@ int TextListView::selectedRow() const {
 }
 
 void TextListView::select(int row) {
+  selectInPlace(row);
+  if (row >= 0) bringIntoView(model()->index(row, 0));
+}
+
+// An item that is only partly in view stays where it is: a double click would end on its neighbour.
+void TextListView::selectInPlace(int row) {
+  const QScopedValueRollback<bool> inPlace(inPlace_, true);
   if (row < 0) {
     selectionModel()->clear();
-    return;
+  } else {
+    selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::ClearAndSelect);
   }
-  const QModelIndex index = model()->index(row, 0);
-  selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-  scrollTo(index);
+}
+
+// Qt's own views repaint the items that changed, and to know where they are they lay out all items, each time. It is
+// enough to paint once, when all is done.
+void TextListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  if (QAccessible::isActive()) QListView::currentChanged(current, previous);
+  viewport()->update();
+  if (current.isValid() && !inPlace_) bringIntoView(current);
+}
+
+void TextListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  if (QAccessible::isActive()) QListView::selectionChanged(selected, deselected);
+  viewport()->update();
+}
+
+void TextListView::showEvent(QShowEvent* event) {
+  QListView::showEvent(event);
+  if (currentIndex().isValid()) bringIntoView(currentIndex());
+}
+
+// Scrolling lays the whole list out: it waits until whatever is going on has ended.
+void TextListView::bringIntoView(const QModelIndex& index) {
+  wanted_ = index;
+  if (std::exchange(scrollWaits_, true)) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        scrollWaits_ = false;
+        if (wanted_.isValid()) scrollTo(wanted_);
+      },
+      Qt::QueuedConnection);
 }
 
 QSize TextListView::sizeOf(int characters, int lines) const {
@@ -74,7 +114,7 @@ QSize TextListView::minimumSizeHint() const { return sizeOf(12, 3); }
 bool TextListView::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (key.modifiers() == Qt::NoModifier && (key.key() == Qt::Key_Delete || isReturn(key))) {
+    if (isPlain(key) && (key.key() == Qt::Key_Delete || isReturn(key))) {
       event->accept();
       return true;
     }
@@ -88,7 +128,7 @@ void TextListView::mousePressEvent(QMouseEvent* event) {
     return;
   }
   event->accept();
-  select(indexAt(event->position().toPoint()).row());
+  selectInPlace(indexAt(event->position().toPoint()).row());
   emit chosen();
 }
 
@@ -105,7 +145,7 @@ void TextListView::mouseDoubleClickEvent(QMouseEvent* event) {
   const int row = indexAt(event->position().toPoint()).row();
   const QPointer<TextListView> self(this);
   if (row != selectedRow()) {
-    select(row);
+    selectInPlace(row);
     emit chosen();
   }
   if (self && row >= 0) emit doubleClickedItem();
@@ -119,7 +159,7 @@ void TextListView::focusInEvent(QFocusEvent* event) {
 }
 
 void TextListView::keyPressEvent(QKeyEvent* event) {
-  if (event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Delete) {
+  if (isPlain(*event) && event->key() == Qt::Key_Delete) {
     event->accept();
     emit deletePressed();
     return;
@@ -129,7 +169,7 @@ void TextListView::keyPressEvent(QKeyEvent* event) {
     emit returnPressed();
     return;
   }
-  const bool again = event->modifiers() == Qt::NoModifier && event->key() == Qt::Key_Space;
+  const bool again = isPlain(*event) && event->key() == Qt::Key_Space;
   if (again) {
     event->accept();
     select(currentIndex().row());

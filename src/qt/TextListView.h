@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QListView>
+#include <QPersistentModelIndex>
 
 #include "qt/TextListModel.h"
 
@@ -39,9 +40,18 @@ class TextListView : public QListView {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
+  void bringIntoView(const QModelIndex& index);
+  void selectInPlace(int row);
   QSize sizeOf(int characters, int lines) const;
+
+  QPersistentModelIndex wanted_;  // the item to be brought into view
+  bool scrollWaits_ = false;
+  bool inPlace_ = false;  // what becomes current is not brought into view
 };
 
 }  // namespace mavCycEd::qt

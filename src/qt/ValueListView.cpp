@@ -52,6 +52,7 @@ ValueListView::ValueListView(ValueListModel* model, QWidget* parent)
   setWordWrap(false);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setCornerButtonEnabled(false);
+  setAutoScroll(false);  // rows come into view when the current one changes, never under a pointer that presses
   setMouseTracking(true);
   setAttribute(Qt::WA_InputMethodEnabled);
   setUpHeaders();
@@ -67,32 +68,37 @@ void ValueListView::setUpHeaders() {
   QHeaderView& titles = *horizontalHeader();
   titles.setHighlightSections(false);
   titles.setSectionsClickable(false);
-  titles.setStretchLastSection(true);
   titles.setMinimumHeight(lowestRow);
   titles.viewport()->setMouseTracking(true);
   titles.viewport()->installEventFilter(this);
   connect(&titles, &QHeaderView::sectionResized, this,
           [this](int column, int, int width) { onColumnResized(column, width); });
-  fitRowHeight();
+  fitToFont();
 }
 
-// A row is as high as an editor in it needs.
-void ValueListView::fitRowHeight() {
+// A row is as high as an editor in it needs. A column may get narrow: the header's own limit is the widest character
+// that the font has, and in many fonts that one is wider than a short text.
+void ValueListView::fitToFont() {
   constexpr int margins = 8;
+  constexpr int characters = 4;
+  horizontalHeader()->setMinimumSectionSize(fontMetrics().averageCharWidth() * characters);
   verticalHeader()->setDefaultSectionSize(std::max(lowestRow, fontMetrics().height() + margins));
 }
 
-// Both columns are in view, always.
+// Both columns are in view, always; a last section that the header stretches would not get narrow again.
 void ValueListView::fitColumns() {
+  const QScopedValueRollback fitting(fitting_, true);
   const int width = viewport()->width();
   const int narrowest = std::min(horizontalHeader()->minimumSectionSize(), width / 2);
-  setColumnWidth(0, std::clamp(static_cast<int>(width * keyShare_), narrowest, width - narrowest));
+  const int keyWidth = std::clamp(static_cast<int>(width * keyShare_), narrowest, width - narrowest);
+  setColumnWidth(ValueListModel::keyColumn, keyWidth);
+  setColumnWidth(ValueListModel::valueColumn, width - keyWidth);
 }
 
+// The user drags the border between the columns, or the end of the last one.
 void ValueListView::onColumnResized(int column, int width) {
-  const bool dragged = column == 0 && (QGuiApplication::mouseButtons() & Qt::LeftButton) != 0;
-  if (!dragged || viewport()->width() <= 0) return;
-  keyShare_ = static_cast<double>(width) / viewport()->width();
+  if (fitting_ || (QGuiApplication::mouseButtons() & Qt::LeftButton) == 0 || viewport()->width() <= 0) return;
+  if (column == ValueListModel::keyColumn) keyShare_ = static_cast<double>(width) / viewport()->width();
   fitColumns();
 }
 
@@ -110,12 +116,18 @@ QSize ValueListView::sizeHint() const {
 
 QSize ValueListView::minimumSizeHint() const {
   const int frame = 2 * frameWidth();
-  return {fontMetrics().averageCharWidth() * 24 + frame,
-          horizontalHeader()->sizeHint().height() + verticalHeader()->defaultSectionSize() * 3 + frame};
+  const int titles = std::max(horizontalHeader()->sizeHint().height(), horizontalHeader()->minimumHeight());
+  return {fontMetrics().averageCharWidth() * 24 + frame, titles + verticalHeader()->defaultSectionSize() * 3 + frame};
+}
+
+void ValueListView::showCurrentRow() {
+  markCurrentRow();
+  if (model_.rows().currentRow() == 0) return;
+  scrollTo(model_.cellIndex(ValueListModel::valueColumn, model_.rows().currentRow()));
 }
 
 // While a value is edited its cell stays the view's current one: another cell would close the editor.
-void ValueListView::showCurrentRow() {
+void ValueListView::markCurrentRow() {
   const QScopedValueRollback quiet(byCode_, true);
   const int row = model_.rows().currentRow();
   if (row == 0) {
@@ -129,7 +141,6 @@ void ValueListView::showCurrentRow() {
   } else {
     selectionModel()->setCurrentIndex(value, whole);
   }
-  scrollTo(value);
 }
 
 void ValueListView::chooseRow(int row) {
@@ -182,9 +193,15 @@ bool ValueListView::moveBy(int key) {
   }
 }
 
+bool ValueListView::opensEditor(const QKeyEvent& key) const {
+  return (isPlain(key) && key.key() == Qt::Key_F2) || (enterOpens_ && isEnter(key));
+}
+
 void ValueListView::keyPressEvent(QKeyEvent* event) {
   event->accept();
-  if (cellEdit_->isOpen()) {  // what the editor does not want is not for the rows either
+  if (isMenuKey(*event)) {
+    askForMenuOfCurrentRow();
+  } else if (cellEdit_->isOpen()) {  // what the editor does not want is not for the rows either
     event->ignore();
   } else if (event->matches(QKeySequence::Copy)) {
     QGuiApplication::clipboard()->setText(currentIndex().data().toString());
@@ -217,7 +234,7 @@ void ValueListView::inputMethodEvent(QInputMethodEvent* event) {
 bool ValueListView::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (isListKey(key) || beginsEdit(key) || opensEditor(key)) {
+    if (isListKey(key) || isMenuKey(key) || beginsEdit(key) || opensEditor(key)) {
       event->accept();
       return true;
     }
@@ -273,7 +290,11 @@ void ValueListView::mousePressEvent(QMouseEvent* event) {
 
 void ValueListView::mouseMoveEvent(QMouseEvent* event) {
   event->accept();
-  const QPoint units = units_.ofCells(event->position().toPoint());
+  pointAt(event->position().toPoint());
+}
+
+void ValueListView::pointAt(const QPoint& place) {
+  const QPoint units = units_.ofCells(place);
   emit mouseMoved(units.x(), units.y());
 }
 
@@ -286,17 +307,26 @@ void ValueListView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(
 
 void ValueListView::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
+  if (event->reason() != QContextMenuEvent::Mouse) {
+    askForMenuOfCurrentRow();
+    return;
+  }
   const QPointer<ValueListView> self(this);
   cellEdit_->end();
   if (!self) return;
-  if (event->reason() == QContextMenuEvent::Mouse) {
-    const QModelIndex index = indexAt(event->pos());
-    askForMenu(index.isValid() ? ValueListModel::rowOf(index) : 0, units_.ofCells(event->pos()), event->globalPos());
-    return;
-  }
+  const QModelIndex index = indexAt(event->pos());
+  askForMenu(index.isValid() ? ValueListModel::rowOf(index) : 0, units_.ofCells(event->pos()), event->globalPos());
+}
+
+void ValueListView::askForMenuOfCurrentRow() {
+  const QPointer<ValueListView> self(this);
+  cellEdit_->end();
+  if (!self) return;
   const int row = model_.rows().currentRow();
   if (row == 0) return;
-  const QPoint middle = visualRect(model_.cellIndex(ValueListModel::valueColumn, row)).center();
+  const QModelIndex value = model_.cellIndex(ValueListModel::valueColumn, row);
+  scrollTo(value);
+  const QPoint middle = visualRect(value).center();
   askForMenu(row, units_.ofCells(middle), viewport()->mapToGlobal(middle));
 }
 
@@ -345,7 +375,7 @@ bool ValueListView::viewportEvent(QEvent* event) {
 
 void ValueListView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) fitRowHeight();
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) fitToFont();
 }
 
 void ValueListView::resizeEvent(QResizeEvent* event) {

@@ -11,7 +11,8 @@ namespace mavCycEd::qt {
 class ValueListModel;
 
 /// A value list on the screen: the keys and the mouse of its user. A value is edited in its cell: a click on it, F2,
-/// Enter or simply typing opens the editor.
+/// Enter or simply typing opens the editor; a value that was picked from its list is still being edited, so that the
+/// next key leads on from there.
 class ValueListView : public QTableView {
   Q_OBJECT
 
@@ -39,12 +40,18 @@ class ValueListView : public QTableView {
   CellEdit& cellEdit() { return *cellEdit_; }
   const CellEdit& cellEdit() const { return *cellEdit_; }
 
-  /// Selects the current row of the rows and brings it into view.
+  /// Selects the current row of the rows, and brings it into view.
+  void markCurrentRow();
   void showCurrentRow();
   /// The user makes a parameter row current; told when it was not.
   void chooseRow(int row);
+  /// Whether Enter opens the editor of the current row's value, as F2 does; it does unless the window has another use
+  /// for the key.
+  void setEnterOpens(bool opens) { enterOpens_ = opens; }
   /// Opens the editor of the current row's value, if there is a row.
   void editCurrentRow();
+  /// The pointer is at this place of the viewport; what covers the cells there says so.
+  void pointAt(const QPoint& place);
   /// Closes the editor of an edit; the focus stays in the grid if it was in the editor.
   void removeEditor(QWidget* editor) { closeEditor(editor, QAbstractItemDelegate::NoHint); }
   /// Where the pop-up menu was last asked for, in global coordinates.
@@ -76,14 +83,16 @@ class ValueListView : public QTableView {
 
  private:
   void setUpHeaders();
-  void fitRowHeight();
+  void fitToFont();
   void fitColumns();
   void onColumnResized(int column, int width);
+  bool opensEditor(const QKeyEvent& key) const;
   int rowBy(int key) const;
   bool moveBy(int key);
   void goOn(int row, CellEdit::Step step);
   void onTitleEvent(const QEvent& event);
   void askForMenu(int row, const QPoint& units, const QPoint& place);
+  void askForMenuOfCurrentRow();
   int pageRows() const;
 
   ValueListModel& model_;
@@ -91,7 +100,9 @@ class ValueListView : public QTableView {
   GridUnits units_{*this};
   QPoint menuPlace_;
   double keyShare_ = 0.55;  // of the key column in the width
+  bool enterOpens_ = true;
   bool byCode_ = false;
+  bool fitting_ = false;     // the widths of the columns are being set
   bool listWanted_ = false;  // the mouse button went down on an arrow
 };
 

@@ -1,5 +1,6 @@
 #include "qt/include/mavCycEd/ctlCycEd.h"
 
+#include <QPointer>
 #include <string>
 #include <utility>
 
@@ -17,41 +18,64 @@ namespace mavCycEd {
 
 static_assert(static_cast<int>(ctlCycEd::mavCycEdErrorInvalidXML) == static_cast<int>(mavCycEdErrorInvalidXML));
 
+namespace {
+
+HostServices completed(ctlCycEd& control, HostServices services) {
+  if (!services.messageBox) services.messageBox = std::make_shared<qt::QtMessageBox>(&control);
+  if (!services.clock) services.clock = std::make_shared<qt::QtClock>();
+  return services;
+}
+
+/// What the editor works on. It lives until the control is gone and its last procedure has ended.
+struct Surroundings {
+  Surroundings(ctlCycEd& control, HostServices given)
+      : services(completed(control, std::move(given))), screen(control, services.gridTimer) {}
+
+  PlatformServices platformServices() {
+    return {xmlDocuments, *services.messageBox, systemMessage, codePage, *services.clock};
+  }
+
+  HostServices services;
+  libxml2::Libxml2DocumentFactory xmlDocuments;
+  qt::QtSystemMessage systemMessage;
+  qt::Utf8CodePage codePage;
+  qt::EditorScreen screen;
+};
+
+}  // namespace
+
 class ctlCycEd::Implementation {
  public:
   Implementation(ctlCycEd& control, HostServices services)
-      : services_(completed(control, std::move(services))),
-        screen_(control, services_.gridTimer),
+      : surroundings_(std::make_shared<Surroundings>(control, std::move(services))),
         editor_(
-            screen_.controls(), {xmlDocuments_, *services_.messageBox, systemMessage_, codePage_, *services_.clock},
-            [&control](const CycleEditorErrorEvent& event) { tellError(control, event); }, services_.provider) {}
+            surroundings_->screen.controls(), surroundings_->platformServices(),
+            [&control](const CycleEditorErrorEvent& event) { tellError(control, event); },
+            surroundings_->services.provider, surroundings_) {}
+  ~Implementation() {
+    if (editor_.isRunning()) surroundings_->screen.outliveControl();
+  }
+  Implementation(const Implementation&) = delete;
+  Implementation& operator=(const Implementation&) = delete;
 
   EditorControl& editor() { return editor_; }
 
-  /// The editor for a call of the host's that changes what is shown or takes the cycle: a value that is being typed is
-  /// finished first.
-  EditorControl& settledEditor() {
-    screen_.gate().pass();
-    return editor_;
+  /// Finishes a value that is being typed, before a call of the host's that changes what is shown or takes the cycle.
+  /// What the end of the edit leads to may destroy the control: false then.
+  static bool settle(ctlCycEd& control) {
+    const QPointer<ctlCycEd> alive(&control);
+    const auto surroundings = control.implementation_->surroundings_;
+    surroundings->screen.gate().pass();
+    return !alive.isNull();
   }
 
  private:
-  static HostServices completed(ctlCycEd& control, HostServices services) {
-    if (!services.messageBox) services.messageBox = std::make_shared<qt::QtMessageBox>(&control);
-    if (!services.clock) services.clock = std::make_shared<qt::QtClock>();
-    return services;
-  }
-
   static void tellError(ctlCycEd& control, const CycleEditorErrorEvent& event) {
     emit control.CycleEditorError(event.lngError, qt::toQt(event.strError), qt::toQt(event.strApplication),
                                   qt::toQt(event.strModule), qt::toQt(event.strProcedure), event.intLineNumber);
   }
 
-  HostServices services_;
-  libxml2::Libxml2DocumentFactory xmlDocuments_;
-  qt::QtSystemMessage systemMessage_;
-  qt::Utf8CodePage codePage_;
-  qt::EditorScreen screen_;
+  std::shared_ptr<Surroundings> surroundings_;
   EditorControl editor_;
 };
 
@@ -63,28 +87,32 @@ ctlCycEd::ctlCycEd(HostServices services, QWidget* parent)
 ctlCycEd::~ctlCycEd() = default;
 
 void ctlCycEd::SetConfigXML(const QString& strConfigXml) {
-  implementation_->settledEditor().SetConfigXML(qt::fromQt(strConfigXml));
+  implementation_->editor().SetConfigXML(qt::fromQt(strConfigXml));
 }
 
 void ctlCycEd::SetXMLStrings(const QString& strLatestKam, const QString& strCycle) {
-  implementation_->settledEditor().SetXMLStrings(qt::fromQt(strLatestKam), qt::fromQt(strCycle));
+  if (!Implementation::settle(*this)) return;
+  implementation_->editor().SetXMLStrings(qt::fromQt(strLatestKam), qt::fromQt(strCycle));
 }
 
-QString ctlCycEd::RetrieveCycle() { return qt::toQt(implementation_->settledEditor().RetrieveCycle()); }
+QString ctlCycEd::RetrieveCycle() {
+  return Implementation::settle(*this) ? qt::toQt(implementation_->editor().RetrieveCycle()) : QString();
+}
 
-void ctlCycEd::setIgnore_Hidden(bool booNewValue) { implementation_->settledEditor().Ignore_Hidden(booNewValue); }
+void ctlCycEd::setIgnore_Hidden(bool booNewValue) { implementation_->editor().Ignore_Hidden(booNewValue); }
 
 bool ctlCycEd::CycleChanged() { return implementation_->editor().CycleChanged(); }
 
-void ctlCycEd::setResetCycle(const QString& strCycle) {
-  implementation_->settledEditor().ResetCycle(qt::fromQt(strCycle));
-}
+void ctlCycEd::setResetCycle(const QString& strCycle) { implementation_->editor().ResetCycle(qt::fromQt(strCycle)); }
 
-QString ctlCycEd::MacroString() { return qt::toQt(implementation_->settledEditor().MacroString()); }
+QString ctlCycEd::MacroString() {
+  return Implementation::settle(*this) ? qt::toQt(implementation_->editor().MacroString()) : QString();
+}
 
 bool ctlCycEd::ParamValueControl(QString& message) {
   std::string text = qt::fromQt(message);
-  const bool valid = implementation_->settledEditor().ParamValueControl(text);
+  if (!Implementation::settle(*this)) return false;
+  const bool valid = implementation_->editor().ParamValueControl(text);
   message = qt::toQt(text);
   return valid;
 }

@@ -3,20 +3,39 @@
 #include <utility>
 
 namespace mavCycEd::win32 {
+namespace {
 
-Win32Editor::Win32Editor(HWND parent, platform::XmlDocumentFactory& xmlDocuments, CycleEditorErrorHandler onError,
-                         EditorServices services)
-    : screen_(parent, services.gridTimer),
-      services_(completed(std::move(services), screen_)),
-      control_(screen_.controls(), {xmlDocuments, *services_.messageBox, systemMessage_, codePage_, *services_.clock},
-               std::move(onError), services_.provider) {}
-
-EditorServices Win32Editor::completed(EditorServices services, EditorScreen& screen) {
+EditorServices completed(EditorServices services, EditorScreen& screen) {
   if (!services.messageBox) {
     services.messageBox = std::make_shared<Win32MessageBox>([&screen] { return screen.window(); });
   }
   if (!services.clock) services.clock = std::make_shared<Win32Clock>();
   return services;
+}
+
+}  // namespace
+
+Surroundings::Surroundings(HWND parent, std::unique_ptr<platform::XmlDocumentFactory> documents, EditorServices given)
+    : xmlDocuments(std::move(documents)),
+      screen(parent, given.gridTimer),
+      services(completed(std::move(given), screen)) {}
+
+Win32Editor::Win32Editor(HWND parent, std::unique_ptr<platform::XmlDocumentFactory> xmlDocuments,
+                         CycleEditorErrorHandler onError, EditorServices services)
+    : surroundings_(std::make_shared<Surroundings>(parent, std::move(xmlDocuments), std::move(services))),
+      control_(surroundings_->screen.controls(), surroundings_->platformServices(), std::move(onError),
+               surroundings_->services.provider, surroundings_) {}
+
+// What is still running keeps the windows; the host's own may be on its way out.
+Win32Editor::~Win32Editor() {
+  if (control_.isRunning()) surroundings_->screen.setParent(nullptr);
+}
+
+bool Win32Editor::settle() {
+  const Lifeline::Watch alive = lifeline_.watch();
+  const auto surroundings = surroundings_;
+  surroundings->screen.gate().pass();
+  return static_cast<bool>(alive);
 }
 
 }  // namespace mavCycEd::win32

@@ -5,6 +5,7 @@
 #include "catalogue/AtomListProvider.h"
 #include "control/EditorControl.h"
 #include "win32/EditorScreen.h"
+#include "win32/Notify.h"
 #include "win32/Services.h"
 
 namespace mavCycEd::win32 {
@@ -17,32 +18,44 @@ struct EditorServices {
   std::shared_ptr<platform::Timer> gridTimer = nullptr;
 };
 
-/// The whole editor on native windows: a screen and the control on it.
-class Win32Editor {
- public:
-  /// `parent`: see EditorScreen. The factory of documents outlives the editor.
-  Win32Editor(HWND parent, platform::XmlDocumentFactory& xmlDocuments, CycleEditorErrorHandler onError,
-              EditorServices services = {});
+/// What the editor works on. It lives until the editor is gone and its last procedure has ended.
+struct Surroundings {
+  Surroundings(HWND parent, std::unique_ptr<platform::XmlDocumentFactory> documents, EditorServices given);
 
-  EditorScreen& screen() { return screen_; }
-  const EditorControl& control() const { return control_; }
-  /// For a call of the host's that only asks.
-  EditorControl& control() { return control_; }
-  /// For a call of the host's that changes what is shown or takes the cycle: a value that is being typed is finished
-  /// first.
-  EditorControl& settledControl() {
-    screen_.gate().pass();
-    return control_;
+  PlatformServices platformServices() {
+    return {*xmlDocuments, *services.messageBox, systemMessage, codePage, *services.clock};
   }
 
- private:
-  static EditorServices completed(EditorServices services, EditorScreen& screen);
+  std::unique_ptr<platform::XmlDocumentFactory> xmlDocuments;
+  Win32SystemMessage systemMessage;
+  AnsiCodePage codePage;
+  EditorScreen screen;
+  EditorServices services;
+};
 
-  EditorScreen screen_;
-  EditorServices services_;
-  Win32SystemMessage systemMessage_;
-  AnsiCodePage codePage_;
+/// The whole editor on native windows: a screen and the control on it. It may be destroyed at any time, also from
+/// inside its own events: what is still running then ends on windows that nobody sees.
+class Win32Editor {
+ public:
+  /// `parent`: see EditorScreen.
+  Win32Editor(HWND parent, std::unique_ptr<platform::XmlDocumentFactory> xmlDocuments, CycleEditorErrorHandler onError,
+              EditorServices services = {});
+  ~Win32Editor();
+  Win32Editor(const Win32Editor&) = delete;
+  Win32Editor& operator=(const Win32Editor&) = delete;
+
+  EditorScreen& screen() { return surroundings_->screen; }
+  EditorControl& control() { return control_; }
+  const EditorControl& control() const { return control_; }
+
+  /// Finishes a value that is being typed, before a call of the host's that changes what is shown or takes the cycle.
+  /// What the end of the edit leads to may destroy the editor: false then.
+  bool settle();
+
+ private:
+  std::shared_ptr<Surroundings> surroundings_;
   EditorControl control_;
+  Lifeline lifeline_;
 };
 
 }  // namespace mavCycEd::win32

@@ -25,10 +25,40 @@ std::size_t Win32ListBox::checked(int index) const {
 
 void Win32ListBox::assign(std::vector<std::string> items) {
   items_ = std::move(items);
+  lines_ = nullptr;
   index_ = -1;
   longest_ = 0;
   for (const std::string& item : items_) longest_ = std::max(longest_, item.size());
   showCount();
+}
+
+void Win32ListBox::showLines(const platform::ListLines& lines) {
+  items_.clear();
+  lines_ = &lines;
+  lineCount_ = lines.count();
+  index_ = -1;
+  showCount();
+}
+
+void Win32ListBox::lineAdded() {
+  ++lineCount_;
+  showCount();
+}
+
+void Win32ListBox::lineChanged(int index) {
+  checked(index);
+  showItem(index);
+}
+
+std::string Win32ListBox::itemText(int index) const {
+  const std::size_t at = checked(index);
+  return lines_ != nullptr ? lines_->text(index) : items_[at];
+}
+
+std::vector<std::string> Win32ListBox::items() const {
+  std::vector<std::string> texts;
+  for (int i = 0; i < itemCount(); ++i) texts.push_back(itemText(i));
+  return texts;
 }
 
 void Win32ListBox::addItem(std::string_view text) {
@@ -50,6 +80,10 @@ void Win32ListBox::removeItem(int index) {
 void Win32ListBox::setItemText(int index, std::string_view text) {
   items_[checked(index)] = text;
   longest_ = std::max(longest_, text.size());
+  showItem(index);
+}
+
+void Win32ListBox::showItem(int index) {
   RECT place{};
   send(LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&place));
   if (handle() != nullptr) InvalidateRect(handle(), &place, TRUE);
@@ -60,7 +94,7 @@ void Win32ListBox::setItemText(int index, std::string_view text) {
 void Win32ListBox::showCount() {
   const LRESULT top = send(LB_GETTOPINDEX);
   send(WM_SETREDRAW, FALSE);
-  send(LB_SETCOUNT, items_.size());
+  send(LB_SETCOUNT, static_cast<WPARAM>(itemCount()));
   send(LB_SETTOPINDEX, static_cast<WPARAM>(std::min<LRESULT>(top, std::max(itemCount() - 1, 0))));
   send(LB_SETCURSEL, static_cast<WPARAM>(index_));
   send(WM_SETREDRAW, TRUE);
@@ -75,7 +109,9 @@ void Win32ListBox::fitWidth() {
   if (handle() == nullptr) return;
   const int average = TextMeasure(handle(), fontHandle()).averageWidth();
   constexpr std::size_t mostCharacters = 2000;
-  const int width = static_cast<int>(std::min(longest_, mostCharacters)) * average + scaled(handle(), 8);
+  std::size_t characters = longest_;
+  if (lines_ != nullptr) characters = lines_->longest() < 0 ? 0 : lines_->text(lines_->longest()).size();
+  const int width = static_cast<int>(std::min(characters, mostCharacters)) * average + scaled(handle(), 8);
   send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width));
 }
 
@@ -178,12 +214,8 @@ std::optional<LRESULT> Win32ListBox::onMessage(UINT message, WPARAM wParam, LPAR
 std::optional<LRESULT> Win32ListBox::onKey(UINT message, WPARAM wParam, LPARAM lParam) {
   const bool control = GetKeyState(VK_CONTROL) < 0;
   switch (wParam) {
-    case VK_DELETE:
-      if (onDelete_) onDelete_();
-      return 0;
-    case VK_RETURN:
-      if (onReturn_) onReturn_();
-      return 0;
+    case VK_DELETE: tell(onDelete_); return 0;
+    case VK_RETURN: tell(onReturn_); return 0;
     case VK_SPACE:
       if (control && index_ >= 0) choose(-1);
       return 0;
@@ -198,14 +230,14 @@ std::optional<LRESULT> Win32ListBox::onKey(UINT message, WPARAM wParam, LPARAM l
 
 // The next item that begins with a typed character, as a list box with texts of its own finds it.
 bool Win32ListBox::searchFor(wchar_t character) {
-  if (character <= L' ' || items_.empty()) return true;
+  if (character <= L' ' || itemCount() == 0) return true;
   const auto folded = [](wchar_t c) {
     return std::bit_cast<std::uintptr_t>(CharUpperW(std::bit_cast<LPWSTR>(std::uintptr_t{c})));
   };
   const int count = itemCount();
   for (int step = 1; step <= count; ++step) {
     const int index = (index_ + step) % count;
-    const std::wstring text = toWide(items_[static_cast<std::size_t>(index)].substr(0, 4));
+    const std::wstring text = toWide(itemText(index).substr(0, 4));
     if (!text.empty() && folded(text.front()) == folded(character)) {
       choose(index);
       return true;
@@ -221,12 +253,12 @@ void Win32ListBox::onDraw(const DRAWITEMSTRUCT& item) {
   const int back = !isSelected ? COLOR_WINDOW : isActive ? COLOR_HIGHLIGHT : COLOR_3DLIGHT;
   const int front = !isEnabled ? COLOR_GRAYTEXT : isSelected && isActive ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT;
   FillRect(item.hDC, &item.rcItem, GetSysColorBrush(back));
-  if (item.itemID < items_.size()) {
+  if (static_cast<int>(item.itemID) < itemCount() && item.itemID != static_cast<UINT>(-1)) {
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, GetSysColor(front));
     RECT place = item.rcItem;
     place.left += scaled(handle(), 4);
-    DrawTextW(item.hDC, toWide(items_[item.itemID]).c_str(), -1, &place,
+    DrawTextW(item.hDC, toWide(itemText(static_cast<int>(item.itemID))).c_str(), -1, &place,
               DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_EXPANDTABS);
   }
   if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {

@@ -24,17 +24,21 @@ class Win32ListBox : public platform::ListBox, public NativeWindow {
   void setEvents(platform::ListBoxEvents events) override { events_ = std::move(events); }
   void clear() override { assign({}); }
   void assign(std::vector<std::string> items) override;
+  void showLines(const platform::ListLines& lines) override;
+  void lineAdded() override;
+  void lineChanged(int index) override;
   void addItem(std::string_view text) override;
   void removeItem(int index) override;
   void setItemText(int index, std::string_view text) override;
-  int itemCount() const override { return static_cast<int>(items_.size()); }
-  std::string itemText(int index) const override { return items_[checked(index)]; }
+  int itemCount() const override { return lines_ != nullptr ? lineCount_ : static_cast<int>(items_.size()); }
+  std::string itemText(int index) const override;
   int index() const override { return index_; }
   void setIndex(int index) override;
   platform::Font font() const override;
   void setItemFont(const platform::Font& font) override;
 
-  const std::vector<std::string>& items() const { return items_; }
+  /// The texts of all items.
+  std::vector<std::string> items() const;
 
   /// What Del and Enter do while the list has the focus, besides what the list does with them.
   void setKeys(std::function<void()> onDelete, std::function<void()> onReturn);
@@ -65,6 +69,7 @@ class Win32ListBox : public platform::ListBox, public NativeWindow {
 
   std::size_t checked(int index) const;
   void showCount();
+  void showItem(int index);
   void showSelection();
   void fitWidth();
   int itemAt(LPARAM place) const;
@@ -78,8 +83,10 @@ class Win32ListBox : public platform::ListBox, public NativeWindow {
   const CommandGate& gate_;
   platform::ListBoxEvents events_;
   std::vector<std::string> items_;
+  const platform::ListLines* lines_ = nullptr;  // null: the items are its own
+  int lineCount_ = 0;
   int index_ = -1;
-  std::size_t longest_ = 0;  // in bytes
+  std::size_t longest_ = 0;  // of its own items, in bytes
   std::function<void()> onDelete_;
   std::function<void()> onReturn_;
   std::optional<platform::Font> itemFont_;

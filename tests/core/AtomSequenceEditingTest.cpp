@@ -336,9 +336,8 @@ TEST_F(AtomSequenceEditingTest, InsertedValuesAreShownWhenTheLineIsSelected) {
 class BrokenList : public memory::MemoryListBox {
  public:
   BrokenList() : MemoryListBox(nullptr) {}
-  void setItemText(int, std::string_view) override { throw RunTimeError(1, "no line"); }
-  void assign(std::vector<std::string>) override { throw RunTimeError(2, "no list"); }
-  void clear() override { throw RunTimeError(2, "no list"); }
+  void lineChanged(int) override { throw RunTimeError(1, "no line"); }
+  void showLines(const platform::ListLines&) override { throw RunTimeError(2, "no list"); }
 };
 
 TEST(AtomSequenceEditingFailures, AreReportedUnderTheProceduresName) {
@@ -368,6 +367,7 @@ TEST(AtomSequenceEditingFailures, AreReportedUnderTheProceduresName) {
   cboAtom.addItem("A");
   cboAtom.setIndex(0);
   cycle.atoms.Add("A", "", "", std::string());
+  cycle.display.rebuild();
   lstAtomSequence.addItem("01 A");
   lstAtomSequence.setIndex(0);
   editing.cmdReplace_Click();

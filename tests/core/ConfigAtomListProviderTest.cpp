@@ -125,7 +125,22 @@ TEST_F(ConfigAtomListProviderTest, HiddenObjectsAreHiddenUnlessTheyAreAskedFor) 
   EXPECT_TRUE(provider_.isObjectHidden(objects.item(0)));
   for (int index = 1; index < 4; ++index) EXPECT_FALSE(provider_.isObjectHidden(objects.item(index))) << index;
   provider_.setIgnoreHidden(true);
+  EXPECT_TRUE(provider_.isObjectHidden(objects.item(0))) << "not before the next load";
+  provider_.furtherAtomNames();
   EXPECT_FALSE(provider_.isObjectHidden(objects.item(0)));
+  provider_.setIgnoreHidden(false);
+  EXPECT_FALSE(provider_.isObjectHidden(objects.item(0))) << "not before the next load";
+  provider_.furtherAtomNames();
+  EXPECT_TRUE(provider_.isObjectHidden(objects.item(0)));
+}
+
+TEST_F(ConfigAtomListProviderTest, ParametersOfHiddenAtomsAppearWithTheirNames) {
+  setFurtherAtoms("<ATOM Hidden=\"1\"><AtomName>SERVICE</AtomName><Param>Level;1;3;3;1;None</Param></ATOM>");
+  EXPECT_EQ(provider_.furtherParameters("SERVICE"), "");
+  provider_.setIgnoreHidden(true);
+  EXPECT_EQ(provider_.furtherParameters("SERVICE"), "") << "not before the next load";
+  provider_.furtherAtomNames();
+  EXPECT_EQ(provider_.furtherParameters("SERVICE"), "Level;1;3;3;1;None");
 }
 
 }  // namespace

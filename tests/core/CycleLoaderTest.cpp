@@ -32,7 +32,7 @@ class CycleLoaderTest : public ::testing::Test {
   }
 
   void fill(std::string_view xml) {
-    cycle_.working = test::parsed(xml);
+    cycle_.working = readCycle(xml, xml_);
     loader_.FillCycle();
   }
   std::string descriptionFrom(std::string_view stored) {
@@ -64,6 +64,7 @@ class CycleLoaderTest : public ::testing::Test {
     return {GrdAtom_.cellText(1, 1), GrdAtom_.cellText(1, 2), GrdAtom_.cellText(1, 3)};
   }
 
+  libxml2::Libxml2DocumentFactory xml_;
   CycleState cycle_;
   memory::MemoryTextBox txtCycleDescription_{nullptr};
   memory::MemoryListBox lstVariables_{nullptr};
@@ -176,7 +177,9 @@ TEST_F(CycleLoaderTest, TheSummaryIsNotRead) {
 }
 
 TEST_F(CycleLoaderTest, TheSequenceIsNumberedAndIndentedFromTheMargin) {
-  cycle_.displayIndent = 13;
+  cycle_.atoms.Add("REPEAT", "", "", std::string());
+  cycle_.display.rebuild();
+  cycle_.atoms.Clear();
   fill(cycleOf({"REPEAT", "A", "REPEAT", "B", "END", "END"}));
   EXPECT_THAT(lstAtomSequence_.items(),
               ElementsAre("01 REPEAT", "02    A", "03    REPEAT", "04       B", "05    END", "06 END"));

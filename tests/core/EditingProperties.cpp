@@ -165,7 +165,7 @@ RC_GTEST_PROP(Editing, ShowsALineForEveryAtomLineInItsBlock, ()) {
   int open = 0;
   for (std::size_t line = 0; line < names.size(); ++line) {
     if (names[line] == "END" && open > 0) --open;
-    const std::string& shown = editor.lines()[line];
+    const std::string shown = editor.lines()[line];
     const std::size_t digits = line < 9 ? 2 : std::to_string(line + 1).size();
     RC_ASSERT(shown.substr(digits) == std::string(static_cast<std::size_t>(1 + 3 * open), ' ') + names[line]);
     RC_ASSERT(std::stoul(shown.substr(0, digits)) == line + 1);

@@ -89,7 +89,12 @@ TEST_F(ParamGridKindsTest, TheItemSyrComesFirstWhenTheWholeListIsSyringe) {
 TEST_F(ParamGridKindsTest, HiddenObjectsAreLeftOutUnlessTheyAreAskedFor) {
   EXPECT_EQ(itemsOf("Place;TRAY;None"), "Tray1;Tray2");
   editor_.control().Ignore_Hidden(true);
+  editor_.choose("ATOM");
+  EXPECT_THAT(editor_.pickList(1), ElementsAre("Tray1", "Tray2")) << "not before the next load";
   EXPECT_EQ(itemsOf("Place;TRAY;None"), "Tray1;Tray2;Service");
+  editor_.control().Ignore_Hidden(false);
+  editor_.choose("ATOM");
+  EXPECT_THAT(editor_.pickList(1), ElementsAre("Tray1", "Tray2", "Service")) << "not before the next load";
 }
 
 TEST_F(ParamGridKindsTest, ConfiguredNamesFollowTheObjects) {

@@ -3,11 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <vector>
-
-#include "memory/MemoryListBox.h"
 
 namespace mavCycEd {
 namespace {
@@ -17,15 +16,21 @@ using ::testing::IsEmpty;
 
 class SequenceDisplayTest : public ::testing::Test {
  protected:
-  const std::vector<std::string>& rebuilt(const std::vector<std::string>& names) {
-    cycle_.atoms.Clear();
-    for (const std::string& name : names) cycle_.atoms.Add(name, "", "", std::string());
-    rebuildSequenceList(cycle_, list_);
-    return list_.items();
+  void add(const std::string& name) { atoms_.Add(name, "", "", std::string()); }
+  std::vector<std::string> rebuilt(const std::vector<std::string>& names) {
+    atoms_.Clear();
+    for (const std::string& name : names) add(name);
+    display_.rebuild();
+    return lines();
+  }
+  std::vector<std::string> lines() const {
+    std::vector<std::string> texts;
+    for (int i = 0; i < display_.count(); ++i) texts.push_back(display_.text(i));
+    return texts;
   }
 
-  CycleState cycle_;
-  memory::MemoryListBox list_{nullptr};
+  cAtoms atoms_;
+  SequenceDisplay display_{atoms_};
 };
 
 TEST_F(SequenceDisplayTest, ALineHasNumberIndentAndName) {
@@ -47,7 +52,7 @@ TEST_F(SequenceDisplayTest, UnmatchedEndsStayAtTheMargin) {
 
 TEST_F(SequenceDisplayTest, AnOpenBlockLeavesTheFollowingLinesIndented) {
   EXPECT_THAT(rebuilt({"REPEAT", "A"}), ElementsAre("01 REPEAT", "02    A"));
-  EXPECT_EQ(cycle_.displayIndent, 4);
+  EXPECT_EQ(display_.currentIndent(), 4);
 }
 
 TEST_F(SequenceDisplayTest, BlockWordsAreExact) {
@@ -56,39 +61,86 @@ TEST_F(SequenceDisplayTest, BlockWordsAreExact) {
   EXPECT_THAT(rebuilt({"REPEAT", "end", "END "}), ElementsAre("01 REPEAT", "02    end", "03    END "));
 }
 
-TEST_F(SequenceDisplayTest, ARebuildStartsAtTheMarginAndSelectsNothing) {
-  cycle_.displayIndent = 10;
-  rebuilt({"A", "B"});
-  list_.setIndex(1);
+TEST_F(SequenceDisplayTest, ARebuildStartsAtTheMargin) {
+  rebuilt({"REPEAT", "REPEAT"});
   EXPECT_THAT(rebuilt({"C"}), ElementsAre("01 C"));
-  EXPECT_EQ(list_.index(), -1);
   EXPECT_THAT(rebuilt({}), IsEmpty());
-  EXPECT_EQ(cycle_.displayIndent, 1);
+  EXPECT_EQ(display_.currentIndent(), 1);
 }
 
 TEST_F(SequenceDisplayTest, TheHundredthLineHasThreeDigits) {
-  const auto& lines = rebuilt(std::vector<std::string>(100, "A"));
+  const auto lines = rebuilt(std::vector<std::string>(100, "A"));
   EXPECT_EQ(lines[98], "99 A");
   EXPECT_EQ(lines[99], "100 A");
 }
 
-TEST_F(SequenceDisplayTest, TheNextLineStandsAtTheCurrentIndent) {
-  cycle_.displayIndent = 4;
-  EXPECT_EQ(nextDisplayLine(cycle_, 5, "A"), "05    A");
-  EXPECT_EQ(nextDisplayLine(cycle_, 6, "END"), "06 END");
-  EXPECT_EQ(nextDisplayLine(cycle_, 7, "REPEAT"), "07 REPEAT");
-  EXPECT_EQ(nextDisplayLine(cycle_, 8, "A"), "08    A");
+TEST_F(SequenceDisplayTest, AnAppendedLineStandsAtTheCurrentIndent) {
+  rebuilt({"REPEAT"});
+  for (const char* name : {"A", "END", "REPEAT", "A"}) {
+    add(name);
+    display_.append();
+  }
+  EXPECT_THAT(lines(), ElementsAre("01 REPEAT", "02    A", "03 END", "04 REPEAT", "05    A"));
+}
+
+TEST_F(SequenceDisplayTest, AReplacedLineStandsAtTheMarginUntilTheNextRebuild) {
+  rebuilt({"REPEAT", "A", "END", "B"});
+  atoms_.Item(2).setAtomName("REPEAT");
+  display_.replace(1);
+  EXPECT_THAT(lines(), ElementsAre("01 REPEAT", "02 REPEAT", "03 END", "04 B"));
+  add("C");
+  display_.append();
+  EXPECT_EQ(lines().back(), "05 C") << "the current indent is the one before the replacement";
+  atoms_.Remove(5);
+  display_.rebuildWithout(4, "C");
+  EXPECT_THAT(lines(), ElementsAre("01 REPEAT", "02    REPEAT", "03    END", "04    B"));
+}
+
+// Whatever is put in or taken out: the lines are those of a rebuild from the first line on.
+TEST_F(SequenceDisplayTest, AChangeOfOneLineLeavesWhatARebuildWould) {
+  const std::vector<std::string> names{"A", "REPEAT", "END"};
+  SequenceDisplay whole(atoms_);
+  std::uint32_t random = 1;
+  const auto upTo = [&random](int most) {
+    random = random * 1664525U + 1013904223U;
+    return static_cast<int>((random >> 8U) % static_cast<std::uint32_t>(most + 1));
+  };
+  for (int step = 0; step < 2000; ++step) {
+    if (atoms_.Count() > 0 && upTo(2) == 0) {
+      const int at = upTo(atoms_.Count() - 1);
+      const std::string name = atoms_.Item(at + 1).AtomName();
+      atoms_.Remove(at + 1);
+      display_.rebuildWithout(at, name);
+    } else {
+      const int at = upTo(atoms_.Count());
+      add({});
+      for (int i = atoms_.Count(); i > at + 1; --i) atoms_.Item(i).takeNameAndParameters(atoms_.Item(i - 1));
+      atoms_.Item(at + 1).setAtomName(names[static_cast<std::size_t>(upTo(2))]);
+      display_.rebuildWith(at);
+    }
+    whole.rebuild();
+    ASSERT_EQ(display_.count(), whole.count());
+    for (int i = 0; i < whole.count(); ++i) ASSERT_EQ(display_.text(i), whole.text(i)) << "after step " << step;
+    ASSERT_EQ(display_.currentIndent(), whole.currentIndent()) << "after step " << step;
+  }
+}
+
+TEST_F(SequenceDisplayTest, TheLongestLineIsTheOneThatReachesFurthest) {
+  EXPECT_EQ(display_.longest(), -1);
+  rebuilt({"A", "ABCD", "REPEAT", "ABC"});
+  EXPECT_EQ(display_.longest(), 2);
+  rebuilt({"REPEAT", "ABCD", "A"});
+  EXPECT_EQ(display_.longest(), 1);
 }
 
 TEST_F(SequenceDisplayTest, TheIndentGrowsNoFurtherThan16Bits) {
-  constexpr auto widest = std::numeric_limits<std::int16_t>::max();
-  cycle_.displayIndent = widest - 2;
-  EXPECT_EQ(nextDisplayLine(cycle_, 1, "REPEAT").size(), 2U + (widest - 2) + 6);
-  EXPECT_EQ(cycle_.displayIndent, widest);
-  EXPECT_EQ(nextDisplayLine(cycle_, 2, "REPEAT").size(), 2U + widest + 6);
-  EXPECT_EQ(cycle_.displayIndent, widest);
-  EXPECT_EQ(nextDisplayLine(cycle_, 3, "END").size(), 2U + (widest - 3) + 3);
-  EXPECT_EQ(cycle_.displayIndent, widest - 3);
+  constexpr int widest = std::numeric_limits<std::int16_t>::max();
+  rebuilt(std::vector<std::string>(11000, "REPEAT"));
+  EXPECT_EQ(display_.currentIndent(), widest);
+  EXPECT_EQ(display_.text(10999).size(), 5U + widest + 6);
+  add("END");
+  display_.append();
+  EXPECT_EQ(display_.text(11000).size(), 5U + (widest - 3) + 3);
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ class TestEditor {
   void replace() { screen().cmdReplace.press(); }
   void remove() { screen().cmdDelete.press(); }
 
-  const std::vector<std::string>& lines() { return screen().lstAtomSequence.items(); }
+  std::vector<std::string> lines() { return screen().lstAtomSequence.items(); }
   int selected() { return screen().lstAtomSequence.index(); }
   /// The names of the atom lines.
   std::vector<std::string> atomNames();

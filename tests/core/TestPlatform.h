@@ -56,6 +56,7 @@ class BrokenClock : public platform::Clock {
 class BrokenDocumentFactory : public platform::XmlDocumentFactory {
  public:
   std::unique_ptr<platform::XmlDocument> createDocument() override { throw RunTimeError(78, "no documents"); }
+  bool readDocument(std::string_view, platform::XmlContent&) override { throw RunTimeError(78, "no documents"); }
 };
 
 /// A system with one error code.

@@ -52,7 +52,7 @@ TEST_F(modCycleHelperTest, WithoutACatalogueEveryAnswerIsEmpty) {
   EXPECT_EQ(helper_.atoms().length(), 0);
   EXPECT_THAT(helper_.atomNames(), IsEmpty());
   EXPECT_FALSE(helper_.atom("MIX"));
-  EXPECT_EQ(helper_.objects().length(), 0);
+  EXPECT_TRUE(helper_.objectsOf({"TRAY"}).empty());
   EXPECT_EQ(helper_.classNames(), "");
   EXPECT_THAT(syringesOf("AB"), IsEmpty());
   EXPECT_EQ(helper_.namedList(1), "");

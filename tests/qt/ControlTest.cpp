@@ -252,6 +252,17 @@ TEST_F(Control, VariablesComeToTheirRowsAndGoAgain) {
   EXPECT_EQ(editorOf(control).parameterRows().row(2).ExtraValues, "");
 }
 
+TEST_F(Control, SettingsOfTheHostDoNotDisturbTheEdit) {
+  choose("Aspirate");
+  edit(2);
+  QTest::keyClicks(editor(2), "700");
+  control.SetConfigXML(QStringLiteral("<Config/>"));
+  control.setProperty("Ignore_Hidden", true);
+  control.setProperty("ResetCycle", QStringLiteral("<CYCLE/>"));
+  EXPECT_NE(editor(2), nullptr);
+  EXPECT_THAT(boxes->messages, IsEmpty());
+}
+
 TEST_F(Control, NewCycleEndsTheEditFirst) {
   choose("Aspirate");
   edit(2);

@@ -317,9 +317,32 @@ TEST_F(GridPickList, PickTellsTheEndOfTheEditOnly) {
   combo()->view()->setCurrentIndex(combo()->model()->index(2, 0));
   QTest::keyClick(combo()->view(), Qt::Key_Return);
   EXPECT_EQ(value(2), "Buffer");
-  EXPECT_EQ(editedRow(), 0);
-  EXPECT_TRUE(view().hasFocus());
   EXPECT_THAT(told(), ElementsAre("EndOfEdit 1 2 Source Buffer"));
+}
+
+TEST_F(GridPickList, KeysLeadOnFromAPickedItem) {
+  click(1, 2);
+  key(Qt::Key_F4);
+  key(Qt::Key_Down);
+  key(Qt::Key_Return);
+  EXPECT_EQ(value(2), "Tray2");
+  ASSERT_EQ(editedRow(), 2);
+  EXPECT_EQ(qt::lineOf(*editor(2)).selectedText(), "Tray2");
+  told();
+  key(Qt::Key_Tab);
+  EXPECT_EQ(editedRow(), 3);
+  EXPECT_THAT(told(), ElementsAre("SelectionChange 3"));
+}
+
+TEST_F(GridPickList, PickEndsTheEditWhenItsAnswerLeadsElsewhere) {
+  platform::ValueListEvents answering;
+  answering.EndOfEdit = [this](int, int, const std::string&, const std::string&) { grid.setRow(1); };
+  grid.setEvents(answering);
+  click(1, 2);
+  key(Qt::Key_F4);
+  key(Qt::Key_Return);
+  EXPECT_EQ(editedRow(), 0);
+  EXPECT_EQ(grid.Row(), 1);
 }
 
 TEST_F(GridPickList, TypedTextMayBeNoItem) {

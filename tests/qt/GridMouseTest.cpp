@@ -57,6 +57,25 @@ TEST_F(GridMouse, ValueColumnBeginsAt151WhereverTheDividerStands) {
   }
 }
 
+TEST_F(GridMouse, PointerOverAnOpenEditorIsOverItsCell) {
+  for (const int row : {1, 2}) {
+    click(1, row);
+    told();
+    QWidget& line = qt::lineOf(*editor(row));
+    const QPoint place = line.rect().center();
+    QMouseEvent event(QEvent::MouseMove, place, line.mapToGlobal(place), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&line, &event);
+    EXPECT_TRUE(line.hasMouseTracking());
+    const std::vector<std::string> moves = told();
+    ASSERT_EQ(moves.size(), 1U);
+    int x = 0;
+    int y = 0;
+    ASSERT_EQ(std::sscanf(moves[0].c_str(), "MouseMove %d,%d", &x, &y), 2);
+    EXPECT_GE(x, 151);
+    EXPECT_EQ(y / 19, row);
+  }
+}
+
 TEST_F(GridMouse, RowsGoOnBelowTheLastOne) {
   const QPoint below(view().columnWidth(0), bottomOf(3));
   move(below);
@@ -108,6 +127,29 @@ TEST_F(GridMouse, MenuKeyAsksAtTheCurrentValue) {
   EXPECT_EQ(y / 19, 2);
 }
 
+TEST_F(GridMouse, ShiftF10AsksLikeTheMenuKey) {
+  view().setFocus();
+  key(Qt::Key_F10, Qt::ShiftModifier);
+  ASSERT_EQ(log.size(), 1U);
+  EXPECT_EQ(log[0].substr(0, 12), "ContextPopup");
+  told();
+  click(1, 2);
+  type("Tr");
+  told();
+  key(Qt::Key_F10, Qt::ShiftModifier);
+  ASSERT_EQ(log.size(), 2U);
+  EXPECT_EQ(log[0], "EndOfEdit 1 2 Source Tr");
+  EXPECT_EQ(log[1].substr(0, 12), "ContextPopup");
+}
+
+TEST_F(GridMouse, MenuKeyBringsTheCurrentValueIntoView) {
+  for (int row = 4; row <= 60; ++row) grid.InsertRow("Key" + std::to_string(row), "", true);
+  grid.setRow(1);
+  view().scrollToBottom();
+  askForMenu(QContextMenuEvent::Keyboard, {});
+  EXPECT_TRUE(view().viewport()->rect().contains(view().viewport()->mapFromGlobal(view().menuPlace())));
+}
+
 TEST_F(GridMouse, RightClickOnAnOpenEditorAsksForTheMenuOfTheGrid) {
   logMouse = false;
   click(1, 1);
@@ -127,6 +169,19 @@ TEST_F(GridMouse, ScrolledRowsKeepTheirUnits) {
   told();
   move(cell(0, 60).topLeft());
   EXPECT_THAT(told(), ElementsAre("MouseMove 0,1140"));
+}
+
+TEST_F(GridMouse, PressIsOnTheRowUnderThePointerAlsoWhenTheEditedOneIsOutOfView) {
+  for (int row = 4; row <= 60; ++row) grid.InsertRow("Key" + std::to_string(row), "", true);
+  logMouse = false;
+  for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+    grid.focusValue(1);
+    view().scrollToBottom();
+    told();
+    click(1, 60, button);
+    EXPECT_THAT(told(), ElementsAre("SelectionChange 60"));
+    EXPECT_EQ(editedRow(), button == Qt::LeftButton ? 60 : 0);
+  }
 }
 
 TEST_F(GridMouse, ToolTipIsTheWholeGrids) {

@@ -1,5 +1,8 @@
 #include <gmock/gmock.h>
 
+#include <QHeaderView>
+#include <QScrollBar>
+
 #include "TestGrid.h"
 
 namespace mavCycEd::test {
@@ -60,6 +63,27 @@ TEST_F(GridRows, InsertedFirstRowLeavesTheCurrentEntryCurrent) {
   EXPECT_EQ(grid.cellText(0, 1), "New");
   EXPECT_EQ(grid.Row(), 3);
   EXPECT_EQ(shownRow(), 3);
+}
+
+TEST_F(GridRows, BothColumnsAreInViewHoweverNarrowTheGrid) {
+  for (const int width : {300, view().minimumSizeHint().width(), 100}) {
+    view().setFixedWidth(width);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view().horizontalHeader()->length(), view().viewport()->width()) << width;
+    EXPECT_GE(view().columnWidth(0), view().viewport()->width() / 3) << width;
+    EXPECT_GE(view().columnWidth(1), view().viewport()->width() / 3) << width;
+  }
+}
+
+TEST_F(GridRows, ThreeRowsAreInViewHoweverLowTheGrid) {
+  for (const int points : {6, 9, 30}) {
+    QFont font = view().font();
+    font.setPointSize(points);
+    view().setFont(font);
+    view().setFixedHeight(view().minimumSizeHint().height());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(view().verticalScrollBar()->isVisible()) << points;
+  }
 }
 
 TEST_F(GridRows, CellsAndTitles) {

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QAbstractItemModelTester>
-#include <QElapsedTimer>
+#include <QCoreApplication>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -72,6 +72,18 @@ TEST_F(ListBox, DoubleClickBelowTheItemsIsNone) {
   EXPECT_THAT(told(), ElementsAre("Click -1"));
 }
 
+TEST_F(ListBox, DoubleClickOnAnItemPartlyInViewIsOnThatItem) {
+  list.assign(std::vector<std::string>(50, "WAIT"));
+  const QRect second = view().visualRect(view().model()->index(1, 0));
+  const int frame = 2 * view().frameWidth();
+  view().resize(200, second.center().y() + frame);
+  const QPoint place(5, view().viewport()->height() - 2);
+  ASSERT_TRUE(second.contains(place));
+  QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, place);
+  EXPECT_THAT(told(), ElementsAre("Click 1", "DblClick 1"));
+}
+
 TEST_F(ListBox, DraggingChangesNothing) {
   QTest::mousePress(view().viewport(), Qt::LeftButton, {}, placeOf(0));
   QMouseEvent drag(QEvent::MouseMove, placeOf(2), view().viewport()->mapToGlobal(placeOf(2)), Qt::NoButton,
@@ -92,6 +104,20 @@ TEST_F(ListBox, KeysSelect) {
   EXPECT_THAT(told(), ElementsAre("Click 1"));
   QTest::keyClick(&view(), Qt::Key_Space, Qt::ControlModifier);
   EXPECT_THAT(told(), ElementsAre("Click -1"));
+}
+
+TEST_F(ListBox, KeysOfTheKeypadAreKeysLikeAllOthers) {
+  QObject::connect(&view(), &qt::TextListView::deletePressed, [this] { log.emplace_back("Delete"); });
+  QObject::connect(&view(), &qt::TextListView::returnPressed, [this] { log.emplace_back("Return"); });
+  for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Enter}) {
+    QKeyEvent claimed(QEvent::ShortcutOverride, key, Qt::KeypadModifier);
+    claimed.ignore();
+    QCoreApplication::sendEvent(&view(), &claimed);
+    EXPECT_TRUE(claimed.isAccepted()) << key;
+    QTest::keyClick(&view(), key, Qt::KeypadModifier);
+    QTest::keyClick(&view(), Qt::Key_Delete, Qt::ShiftModifier);
+  }
+  EXPECT_THAT(told(), ElementsAre("Delete", "Return"));
 }
 
 TEST_F(ListBox, FocusAloneSelectsNothing) {
@@ -155,16 +181,13 @@ TEST_F(ListBox, AssigningIsOneResetAndTellsNothing) {
   EXPECT_THAT(told(), IsEmpty());
 }
 
-TEST_F(ListBox, HundredThousandLinesAreQuick) {
+TEST_F(ListBox, HundredThousandLinesHaveNoObjectEach) {
   std::vector<std::string> lines;
   for (int i = 1; i <= 100'000; ++i) lines.push_back(std::to_string(i) + " ASPIRATE");
-  QElapsedTimer time;
-  time.start();
   list.assign(std::move(lines));
   list.setIndex(99'999);
-  view().repaint();
+  QCoreApplication::processEvents();
   EXPECT_TRUE(view().viewport()->rect().contains(placeOf(99'999)));
-  EXPECT_LT(time.elapsed(), 1000);
   EXPECT_LT(view().findChildren<QObject*>().size(), 50);
 }
 

@@ -78,6 +78,20 @@ TEST_F(VariableDialog, EnterInTheGridIsTheGrids) {
   EXPECT_THAT(log, ElementsAre("5", "Close"));
 }
 
+TEST_F(VariableDialog, EnterBehindTheLastSettingPressesOk) {
+  show([this] {
+    auto& grid = widget<QTableView>("grdParamStnd");
+    grid.setFocus();
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyClicks(&grid, "5");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(dialog.frmparams().isLoaded());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(dialog.frmparams().isLoaded());
+  });
+  EXPECT_THAT(log, ElementsAre("5", "OK"));
+}
+
 TEST_F(VariableDialog, EscapeGivesUpAnEditFirstAndThenTheDialog) {
   show([this] {
     auto& grid = widget<QTableView>("grdParamStnd");

@@ -11,7 +11,7 @@ import sys
 import tempfile
 
 LONGEST_SOURCE = 500
-SOURCE_FOLDERS = ("src", "apps")
+SOURCE_FOLDERS = ("src", "apps", "bench")
 LEFT_OUT = re.compile(r"\.git|\.cache|build.*|__pycache__")
 
 # Top folders in which people and build machines keep their checkouts. The look-behind spares relative paths and

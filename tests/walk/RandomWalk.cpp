@@ -13,10 +13,31 @@ namespace {
 constexpr int longestSequence = 40;
 constexpr int longestDialog = 15;
 
-constexpr std::array names{"VOL", "Count", "Zeit", "Größe", "A-B", "x'y", " Rack ", "V 2", ""};
-constexpr std::array settings{"0", "1", "5", "10", "100", "0.5", "-3", "abc", "1;2", "", "µ"};
-constexpr std::array units{"ul", "None", "", "mm", "TRAY", "s"};
-constexpr std::array descriptions{"", "one line", "first\nsecond", "Größe µl °C\n\n last", "a & b < c > \"d\" 'e'"};
+constexpr std::array names{"VOL",    "Count", "Zeit",     "Größe",      "A-B", "x'y",
+                           " Rack ", "V 2",   "Tray (2)", "\U0001D11E", ""};
+constexpr std::array settings{"0", "1", "5", "10", "100", "0.5", "-3", "abc", "1;2", "", "µ", " 7 ", "1e400"};
+constexpr std::array units{"ul", "None", "", "mm", "TRAY", "s", "µl", "no unit", "(x)"};
+constexpr std::array descriptions{
+    "", "one line", "first\nsecond", "Größe µl °C\n\n last", "a & b < c > \"d\" 'e'", "tab\tand \U0001D11E", "ends\n"};
+constexpr std::array macros{
+    "[PMA]\r\n//from a macro\r\nVOL (ul);10;1;100\r\nREPEAT(3)\r\nWAIT(1.5)\r\nEND()\r\nASPIRATE(VOL,Tray_A)\r\n",
+    "[PMA]\r\nNOT_LISTED(1,2)\r\nEND()\r\nSET_LIGHT(1000)\r\nSET_LIGHT()\r\nSamples;TRAY", "[PMA]\r\n"};
+constexpr std::array screenControls{"lstAtomSequence",
+                                    "atoms",
+                                    "lstVariables",
+                                    "GrdAtom",
+                                    "rows",
+                                    "state",
+                                    "cboAtom",
+                                    "toolTip",
+                                    "mnuSubParam",
+                                    "tmrUpdateGrid",
+                                    "fraCyclePart",
+                                    "fraAtom",
+                                    "fraSelectedMacro",
+                                    "txtCycleDescription"};
+constexpr std::array dialogControls{"txtParamName", "optNrValue",   "optObjValue", "fraParamType", "fraValues",
+                                    "fraObjects",   "grdParamStnd", "cboUnit",     "lstObject",    "mnuSyrConstant"};
 
 std::string literal(std::string_view text) { return nlohmann::json(text).dump(); }
 
@@ -29,20 +50,30 @@ std::string words(std::initializer_list<std::string> list) {
 // The variable's name in an entry of the list.
 std::string nameIn(const std::string& entry) { return entry.substr(0, entry.find_first_of(" (;")); }
 
-// How many entries the pop-up menu shows that was opened last; 0 when none is open.
-int shownEntries(const std::string& line) {
+// The value of this name in a line that the player wrote.
+nlohmann::json written(const std::string& line, const char* name) {
   const auto shown = nlohmann::json::parse(line, nullptr, false);
-  if (!shown.is_object() || !shown.contains("popup") || shown["popup"].is_null()) return 0;
-  return static_cast<int>(shown["popup"].size());
+  return shown.is_object() && shown.contains(name) ? shown[name] : nlohmann::json();
 }
+
+// The text that a step handed back in the line that it wrote; empty when it handed back none.
+std::string handedBack(const std::string& line, const char* name) {
+  const nlohmann::json text = written(line, name);
+  return text.is_string() ? text.get<std::string>() : std::string();
+}
+
+std::string loadingOf(std::string_view cycle) { return words({"SetXMLStrings @catalogue.xml", literal(cycle)}); }
 
 }  // namespace
 
-RandomWalk::RandomWalk(const play::ControlDriver& driver, std::function<std::string()> lastLine,
-                       std::filesystem::path samples, unsigned seed, int steps)
-    : driver_(driver), lastLine_(std::move(lastLine)), samples_(std::move(samples)), random_(seed), stepsLeft_(steps) {
-  pending_ = {"SetXMLStrings @catalogue.xml @cycle-standard.xml", "SetConfigXML @configuration.xml"};
-}
+RandomWalk::RandomWalk(const play::ControlDriver& driver, Surroundings surroundings, std::filesystem::path samples,
+                       unsigned seed, int steps)
+    : driver_(driver),
+      surroundings_(std::move(surroundings)),
+      samples_(std::move(samples)),
+      random_(seed),
+      stepsLeft_(steps),
+      pending_{"SetConfigXML @configuration.xml", "SetXMLStrings @catalogue.xml @cycle-standard.xml"} {}
 
 int RandomWalk::upTo(int highest) { return static_cast<int>(random_() % (static_cast<unsigned>(highest) + 1)); }
 
@@ -52,35 +83,52 @@ const auto& RandomWalk::oneOf(const Items& items) {
 }
 
 play::Step RandomWalk::next() {
-  const bool showing = !pending_.empty();
-  std::string line;
-  if (showing) {
-    line = std::move(pending_.back());
-    pending_.pop_back();
-  } else {
-    --stepsLeft_;
-    const bool inDialog = driver_.isDialogOpen();
-    stepsInDialog_ = inDialog ? stepsInDialog_ + 1 : 0;
-    const int entries = lines_.empty() ? 0 : shownEntries(lastLine_());
-    if (entries > 0 && upTo(3) > 0) {
-      line = stepInPopup(entries);
-    } else {
-      line = inDialog ? stepInDialog() : stepOnScreen();
-    }
-    if (!line.starts_with("context")) {
-      pending_ = {"show state", "show rows", "show GrdAtom", "show lstVariables", "show atoms", "show lstAtomSequence"};
-    }
+  if (!std::exchange(answered_, true)) {
+    answer_ = surroundings_.lastLine();
+    showAll();
   }
-  lines_.push_back(line);
+  std::string line;
+  if (pending_.empty()) {
+    line = nextStep();
+    answered_ = false;
+  } else {
+    line = std::move(pending_.front());
+    pending_.pop_front();
+  }
+  surroundings_.onStep(line);
   play::Step step = play::Scenario::parsed(line, samples_);
-  step.line = static_cast<int>(lines_.size());
+  step.line = ++lines_;
   return step;
+}
+
+void RandomWalk::showAll() {
+  const auto show = [this](const char* name) { pending_.push_back(words({"show", name})); };
+  std::ranges::for_each(screenControls, show);
+  if (driver_.isDialogOpen()) std::ranges::for_each(dialogControls, show);
+}
+
+std::string RandomWalk::nextStep() {
+  const bool inDialog = driver_.isDialogOpen();
+  if (--stepsLeft_ < 0 && !inDialog) {
+    handedBack_ = true;
+    return "RetrieveCycle";
+  }
+  stepsInDialog_ = inDialog ? stepsInDialog_ + 1 : 0;
+  const nlohmann::json popup = written(answer_, "popup");
+  if (popup.is_array() && !popup.empty() && upTo(3) > 0) return stepInPopup(static_cast<int>(popup.size()));
+  if (inDialog) return stepInDialog();
+  // What was just handed back comes again.
+  const std::string cycle = handedBack(answer_, "RetrieveCycle");
+  if (!cycle.empty() && upTo(2) == 0) return loadingOf(cycle);
+  const std::string macro = handedBack(answer_, "MacroString");
+  if (!macro.empty() && upTo(2) == 0) return loadingOf("[PMA]\r\n" + macro);
+  return driver_.frame("fraCyclePart").enabled ? stepOnScreen() : stepOnDisabledScreen();
 }
 
 std::string RandomWalk::stepInPopup(int entries) { return words({"menu", std::to_string(upTo(entries - 1))}); }
 
 std::string RandomWalk::stepOnScreen() {
-  switch (upTo(19)) {
+  switch (upTo(20)) {
     case 0:
     case 1:
     case 2:
@@ -107,15 +155,32 @@ std::string RandomWalk::stepOnScreen() {
   }
 }
 
+// Without a usable catalogue only the host can go on.
+std::string RandomWalk::stepOnDisabledScreen() { return upTo(1) == 0 ? loading() : stepOfHost(); }
+
 std::string RandomWalk::stepOfHost() {
-  switch (upTo(6)) {
+  switch (upTo(7)) {
     case 0: return "CycleChanged";
-    case 1: return "RetrieveCycle";
-    case 2: return "MacroString";
-    case 3: return upTo(1) == 0 ? "Ignore_Hidden true" : "Ignore_Hidden false";
-    case 4: return "ResetCycle @cycle-standard.xml";
-    case 5: return upTo(3) == 0 ? "SetXMLStrings @catalogue.xml @cycle-old.xml" : "tick";
-    default: return upTo(3) == 0 ? "SetXMLStrings @catalogue.xml \"\"" : "tick";
+    case 1:
+    case 2: return "RetrieveCycle";
+    case 3: return "MacroString";
+    case 4: return upTo(1) == 0 ? "Ignore_Hidden true" : "Ignore_Hidden false";
+    case 5: return "ResetCycle @cycle-standard.xml";
+    case 6: return upTo(2) == 0 ? "SetConfigXML \"\"" : "SetConfigXML @configuration.xml";
+    default: return loading();
+  }
+}
+
+std::string RandomWalk::loading() {
+  switch (upTo(8)) {
+    case 0: return loadingOf("");
+    case 1: return loadingOf("<CYCLE>");
+    case 2: return "SetXMLStrings \"\" @cycle-standard.xml";
+    case 3: return "SetXMLStrings \"<LATESTKAM>\" \"\"";
+    case 4:
+    case 5: return loadingOf(oneOf(macros));
+    case 6: return "SetXMLStrings @catalogue.xml @cycle-old.xml";
+    default: return "SetXMLStrings @catalogue.xml @cycle-standard.xml";
   }
 }
 
@@ -130,22 +195,24 @@ std::string RandomWalk::randomValue(const play::GridRowView& row) {
       if (variables.items.empty()) return "VOL+1";
       return nameIn(oneOf(variables.items)) + (upTo(1) == 0 ? "" : "+" + std::to_string(upTo(9)));
     case 5: return row.items.empty() ? "On" : oneOf(row.items);
-    case 6: return "Größe µ";
+    case 6: return upTo(1) == 0 ? "Größe µ" : " \U0001D11E ";
     default: return std::to_string(upTo(20));
   }
 }
 
 std::string RandomWalk::stepInGrid() {
   const play::GridView grid = driver_.grid("GrdAtom");
-  const int x = upTo(300);
-  const int y = upTo(19 * (static_cast<int>(grid.rows.size()) + 2));
+  const auto rows = static_cast<int>(grid.rows.size());
+  // Mostly over the values, now and then over the keys, the titles, or below the last row.
+  const int x = upTo(2) == 0 ? upTo(300) : 151 + upTo(149);
+  const int y = upTo(2) == 0 ? upTo(19 * (rows + 2)) : 19 + upTo(19 * std::max(rows, 1) - 1);
   const std::string at = std::to_string(x) + " " + std::to_string(y);
   const int kind = upTo(7);
   if (kind == 0) return "press GrdAtom " + at;
   if (kind == 1) return "hover GrdAtom " + at;
   if (kind == 2) return "context GrdAtom " + at;
   if (grid.rows.empty()) return "tick";
-  const int row = 1 + upTo(static_cast<int>(grid.rows.size()) - 1);
+  const int row = 1 + upTo(rows - 1);
   const play::GridRowView& shown = grid.rows[static_cast<std::size_t>(row) - 1];
   if (kind < 5 && !shown.items.empty()) {
     return words({"choose GrdAtom", std::to_string(row), literal(oneOf(shown.items))});
@@ -180,7 +247,7 @@ std::string RandomWalk::stepInDialog() {
   const bool numeric = driver_.option("optNrValue");
   const bool nameOpen = driver_.textBox("txtParamName").enabled;
   const bool typeOpen = driver_.frame("fraParamType").enabled;
-  switch (upTo(11)) {
+  switch (upTo(10)) {
     case 0:
     case 1:
       if (nameOpen) return words({"type txtParamName", literal(oneOf(names))});
@@ -191,19 +258,26 @@ std::string RandomWalk::stepInDialog() {
     case 3: return "click cmdCancel";
     case 4:
     case 5: return "click OKButton";
-    case 6: return "show cboUnit";
     default: break;
   }
   if (!numeric) {
     const auto count = static_cast<int>(driver_.selectionList("lstObject").items.size());
     return count > 0 ? words({"select lstObject", std::to_string(upTo(count - 1))}) : "show lstObject";
   }
-  switch (upTo(7)) {
+  return stepInSettings();
+}
+
+std::string RandomWalk::stepInSettings() {
+  const auto somewhere = [this] {
+    return std::to_string(upTo(2) == 0 ? upTo(300) : 151 + upTo(149)) + " " + std::to_string(upTo(90));
+  };
+  switch (upTo(8)) {
     case 0: return words({"type cboUnit", literal(oneOf(units))});
     case 1: return words({"choose cboUnit", literal(oneOf(driver_.combo("cboUnit").items))});
     case 2: return "leave cboUnit";
-    case 3: return words({"context grdParamStnd", std::to_string(upTo(300)), std::to_string(upTo(90))});
-    case 4: return words({"press grdParamStnd", std::to_string(upTo(300)), std::to_string(upTo(90))});
+    case 3: return "context grdParamStnd " + somewhere();
+    case 4: return "press grdParamStnd " + somewhere();
+    case 5: return "hover grdParamStnd " + somewhere();
     default: return words({"edit grdParamStnd", std::to_string(1 + upTo(2)), literal(oneOf(settings))});
   }
 }

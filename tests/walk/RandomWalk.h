@@ -1,38 +1,48 @@
 #pragma once
 
+#include <deque>
 #include <filesystem>
 #include <functional>
 #include <random>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "ControlDriver.h"
 #include "StepSource.h"
 
 namespace mavCycEd::walk {
 
-/// Steps of an operator who does anything that the screen lets one do. The same seed gives the same steps. Behind each
-/// step that changes something the screen is shown.
+/// Steps of an operator who does anything that the screen lets one do, and of a host that loads anything. The same seed
+/// gives the same steps. Behind each step the screen is shown, and the dialog that is open; at the end the cycle is
+/// handed back.
 class RandomWalk : public play::StepSource {
  public:
-  /// `lastLine` gives the line that the player wrote last; `samples` is the folder of the sample instrument.
-  RandomWalk(const play::ControlDriver& driver, std::function<std::string()> lastLine, std::filesystem::path samples,
-             unsigned seed, int steps);
+  /// What a walk hears and tells: the line that the player wrote last, and each of its own steps before it is taken, as
+  /// a line of a scenario file.
+  struct Surroundings {
+    std::function<std::string()> lastLine;
+    std::function<void(const std::string& line)> onStep;
+  };
 
-  bool hasNext() override { return !pending_.empty() || stepsLeft_ > 0 || driver_.isDialogOpen(); }
-  int nextLine() const override { return static_cast<int>(lines_.size()) + 1; }
+  /// `samples` is the folder of the sample instrument.
+  RandomWalk(const play::ControlDriver& driver, Surroundings surroundings, std::filesystem::path samples, unsigned seed,
+             int steps);
+
+  bool hasNext() override { return !pending_.empty() || !handedBack_; }
+  int nextLine() const override { return lines_ + 1; }
   play::Step next() override;
 
-  /// The lines of all steps so far, as a scenario file holds them.
-  const std::vector<std::string>& lines() const { return lines_; }
-
  private:
+  std::string nextStep();
+  void showAll();
   std::string stepOnScreen();
+  std::string stepOnDisabledScreen();
   std::string stepInDialog();
+  std::string stepInSettings();
   std::string stepInGrid();
   std::string stepInList();
   std::string stepOfHost();
+  std::string loading();
   std::string stepInPopup(int entries);
   std::string randomValue(const play::GridRowView& row);
 
@@ -41,13 +51,16 @@ class RandomWalk : public play::StepSource {
   const auto& oneOf(const Items& items);
 
   const play::ControlDriver& driver_;
-  std::function<std::string()> lastLine_;
+  Surroundings surroundings_;
   std::filesystem::path samples_;
   std::mt19937 random_;
   int stepsLeft_;
   int stepsInDialog_ = 0;
-  std::vector<std::string> pending_;  // what shows the screen, last one first
-  std::vector<std::string> lines_;
+  int lines_ = 0;
+  bool handedBack_ = false;          // the walk is at its end
+  bool answered_ = false;            // what the last step wrote has been looked at
+  std::string answer_;               // the line that the last step wrote
+  std::deque<std::string> pending_;  // what is to come before the next step
 };
 
 }  // namespace mavCycEd::walk

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 #include "Console.h"
@@ -25,12 +26,6 @@ std::string lastLineOf(const std::ostringstream& output) {
   if (text.empty()) return {};
   const std::size_t before = text.rfind('\n', text.size() - 2);
   return std::string(text.substr(before == std::string_view::npos ? 0 : before + 1));
-}
-
-void writeScenario(const std::string& file, const std::vector<std::string>& lines) {
-  std::ofstream scenario(file, std::ios::binary);
-  for (const std::string& line : lines) scenario << line << '\n';
-  if (!scenario.flush()) throw std::runtime_error("The scenario " + file + " cannot be written.");
 }
 
 }  // namespace
@@ -59,10 +54,12 @@ int main(int argc, char** argv) {
     play::MemoryDriver driver(
         {xmlDocuments, messageBox, systemMessage, codePage, clock},
         [&output](const CycleEditorErrorEvent& event) { play::writeLine(output, play::asLine(event)); });
-    walk::RandomWalk steps_(
-        driver, [&output] { return lastLineOf(output); }, samples, seed, steps);
-    const bool allRan = play::Player(driver, output).play(steps_);
-    writeScenario(file, steps_.lines());
+    // Written step by step: a step that brings the program down is in the scenario.
+    std::ofstream scenario(file, std::ios::binary);
+    const auto writeStep = [&scenario](const std::string& line) { scenario << line << std::endl; };
+    walk::RandomWalk walked(driver, {[&output] { return lastLineOf(output); }, writeStep}, samples, seed, steps);
+    const bool allRan = play::Player(driver, output).play(walked);
+    if (!scenario) throw std::runtime_error("The scenario " + file + " cannot be written.");
     play::writeBytesAsTheyAre();
     std::cout << output.view();
     return allRan ? 0 : 1;

@@ -1,113 +1,146 @@
 #!/usr/bin/env python3
 """Random walks of an operator through the editor, on every edition.
 
-For each seed a walk is written as a scenario (cyced-walk) and played on every edition. Behind every step: the sequence
-list shows the atom lines, the row table matches the grid, no error event came that the step does not call for, and all
-editions showed the same. At its end the cycle is handed back, loaded again and handed back again, which must give the
-same text. A walk that fails is shrunk to a short scenario, which is left in the work folder.
+For each seed a walk is written as a scenario (cyced-walk) and played on every edition. Behind every step the rules of
+walk_rules.py hold, and all editions showed the same. The cycle that is handed back at the end is loaded again and
+handed back again, which must give the same text. A walk that fails is shrunk to a short scenario, which is left in the
+work folder.
 """
 
 import argparse
+import concurrent.futures
+import dataclasses
 import json
 import pathlib
 import subprocess
 import sys
 
+import walk_rules
 
-def play(player, edition, scenario):
-    run = subprocess.run([*player, "--edition", edition, str(scenario)], capture_output=True, timeout=600)
-    return run.returncode, run.stdout.decode("utf-8")
-
-
-def broken_rule(output):
-    """The first rule of a walk that its output breaks, as a text; empty when it breaks none."""
-    names = None  # what the sequence list showed last, until the atom lines are shown
-    grid = None  # what the grid showed last, until its row table is shown
-    for line in output.splitlines():
-        shown = json.loads(line)
-        if "CycleEditorError" in shown:
-            return f"an error event: {line}"
-        if "lstAtomSequence" in shown:
-            names = [item.lstrip("0123456789").lstrip(" ") for item in shown["lstAtomSequence"]["items"]]
-            numbers = [int(item.split(" ")[0]) for item in shown["lstAtomSequence"]["items"]]
-            if numbers != list(range(1, len(numbers) + 1)):
-                return f"the lines are not numbered in order: {line}"
-        elif "atoms" in shown and names is not None:
-            if names != [atom["AtomName"].lstrip(" ") for atom in shown["atoms"]]:
-                return f"the list does not show the atom lines: {line}"
-            names = None
-        elif "GrdAtom" in shown:
-            grid = shown["GrdAtom"]
-            count = len(grid["rows"])
-            if not (1 <= grid["row"] <= count if count else grid["row"] == 0):
-                return f"the current row is no row: {line}"
-        elif "rows" in shown and grid is not None:
-            table = shown["rows"]
-            if len(table) != len(grid["rows"]):
-                return f"the row table has {len(table)} entries for {len(grid['rows'])} rows"
-            if any(not row["IsNumeric"] and row["Items"] != ";".join(seen["items"])
-                   for row, seen in zip(table, grid["rows"])):
-                return f"the pick lists are not those of the row table: {line}"
-            grid = None
-        else:
-            names = grid = None
-    return ""
+LAST_STEP = "RetrieveCycle"
+ENDLESS = -1000  # the exit code of a run that does not end
 
 
-def failure_of(player, editions, scenario):
-    outputs = {edition: play(player, edition, scenario) for edition in editions}
-    code, first = outputs[editions[0]]
-    if code not in (0, 2):
-        return f"the {editions[0]} edition ended with {code}"
-    problem = broken_rule(first)
-    for edition in editions[1:]:
-        if not problem and outputs[edition] != (code, first):
-            mine, theirs = first.splitlines(), outputs[edition][1].splitlines()
-            at = next((i for i, pair in enumerate(zip(mine, theirs)) if pair[0] != pair[1]), min(len(mine), len(theirs)))
-            problem = (f"line {at + 1}: {editions[0]} shows {''.join(mine[at:at + 1])}\n"
-                       f"{edition} (exit code {outputs[edition][0]}) shows {''.join(theirs[at:at + 1])}")
-    return problem or round_trip_failure(player, editions, scenario, first) if code == 0 else problem
+@dataclasses.dataclass
+class Failure:
+    kind: str  # while a walk is shrunk it has to go on failing in the same way
+    text: str
 
 
-def round_trip_failure(player, editions, scenario, output):
-    """Hands the walk's cycle back, loads it again and hands it back again."""
-    again = scenario.with_suffix(".again")
-    again.write_text(scenario.read_text(encoding="utf-8") + "RetrieveCycle\n", encoding="utf-8")
-    handed_back = json.loads(play(player, editions[0], again)[1].splitlines()[-1]).get("RetrieveCycle")
-    if not handed_back:
+def launcher_of(arguments):
+    return [arguments.launcher] if arguments.launcher else []
+
+
+class Editions:
+    """The player on every edition."""
+
+    def __init__(self, player, names):
+        self.player = player
+        self.names = names
+
+    def play(self, edition, scenario):
+        try:
+            run = subprocess.run([*self.player, "--edition", edition, str(scenario)], capture_output=True, timeout=120)
+        except subprocess.TimeoutExpired:
+            return ENDLESS, []
+        return run.returncode, run.stdout.decode("utf-8").splitlines()
+
+    def failure_of(self, scenario):
+        """How the walk fails, None when it does not."""
+        outputs = {}
+        for edition in self.names:
+            code, lines = outputs[edition] = self.play(edition, scenario)
+            if code not in (0, 2):
+                return Failure(f"{edition} {code}", f"the {edition} edition ended with {code} behind line {len(lines)}")
+        code, lines = outputs[self.names[0]]
+        broken = walk_rules.broken_rule(lines, scenario.read_text(encoding="utf-8").splitlines(), code)
+        if broken:
+            return Failure(broken.split(":")[0], broken)
+        for edition in self.names[1:]:
+            if outputs[edition] != (code, lines):
+                return self.difference(edition, outputs)
+        return self.round_trip_failure(scenario, lines) if code == 0 and lines else None
+
+    def difference(self, edition, outputs):
+        (code, mine), (other_code, theirs) = outputs[self.names[0]], outputs[edition]
+        same = next((i for i, pair in enumerate(zip(mine, theirs)) if pair[0] != pair[1]), min(len(mine), len(theirs)))
+        return Failure(f"difference {code}",
+                       f"line {same + 1}\n{self.names[0]} ({code}) shows {''.join(mine[same:same + 1])}\n"
+                       f"{edition} ({other_code}) shows {''.join(theirs[same:same + 1])}")
+
+    def round_trip_failure(self, scenario, lines):
+        """Loads the cycle that the walk handed back at its end, and hands it back again."""
+        handed_back = json.loads(lines[-1]).get("RetrieveCycle")
+        if not handed_back:
+            return None
+        again = scenario.with_suffix(".again")
+        again.write_text("SetConfigXML @configuration.xml\nSetXMLStrings @catalogue.xml " + json.dumps(handed_back) +
+                         "\nCycleChanged\nRetrieveCycle\n", encoding="utf-8")
+        for edition in self.names:
+            code, seen = self.play(edition, again)
+            if code or [json.loads(line) for line in seen] != [{"CycleChanged": False}, {"RetrieveCycle": handed_back}]:
+                return Failure("round trip", f"the cycle handed back does not come back unchanged from {edition}: {again}")
         again.unlink()
-        return ""
-    again.write_text("SetConfigXML @configuration.xml\nSetXMLStrings @catalogue.xml " + json.dumps(handed_back) +
-                     "\nCycleChanged\nRetrieveCycle\n", encoding="utf-8")
-    for edition in editions:
-        lines = [json.loads(line) for line in play(player, edition, again)[1].splitlines()]
-        if lines != [{"CycleChanged": False}, {"RetrieveCycle": handed_back}]:
-            return f"the cycle that was handed back does not come back unchanged from the {edition} edition"
-    again.unlink()
-    return ""
+        return None
 
 
-def shrunk(player, editions, scenario):
-    """The shortest scenario that can be reached by leaving out steps and still fails."""
+def shrunk(editions, scenario, kind):
+    """The shortest scenario that can be reached by leaving out steps and still fails in this way."""
     lines = scenario.read_text(encoding="utf-8").splitlines()
-    trial = scenario.with_name("trial.scenario")
+    end = [lines.pop()] if lines[-1] == LAST_STEP else []
+    trial = scenario.with_suffix(".trial")
 
     def fails(candidate):
-        trial.write_text("\n".join(candidate) + "\n", encoding="utf-8")
-        return bool(failure_of(player, editions, trial))
+        trial.write_text("\n".join(candidate + end) + "\n", encoding="utf-8")
+        failure = editions.failure_of(trial)
+        return failure is not None and failure.kind == kind
 
-    size = len(lines) // 2
-    while size >= 1:
+    def leave_out(size):
+        """Leaves out what can be left out, `size` steps at a time; steps that belong together go together."""
+        nonlocal lines
         at = 0
         while at < len(lines):
             candidate = lines[:at] + lines[at + size:]
-            if candidate and fails(candidate):
+            if fails(candidate):
                 lines = candidate
             else:
-                at += size
+                at += size if size > 4 else 1
+
+    size = len(lines) // 2
+    while size > 4:
+        leave_out(size)
         size //= 2
-    trial.unlink(missing_ok=True)
-    return lines
+    before = None
+    while before != len(lines):
+        before = len(lines)
+        for size in (1, 2, 3, 4):
+            leave_out(size)
+    for rest in (trial, trial.with_suffix(".again")):
+        rest.unlink(missing_ok=True)
+    return lines + end
+
+
+def walk(arguments, editions, seed):
+    """Walks once; gives what failed, empty when nothing did."""
+    scenario = arguments.work / f"walk-{seed}.scenario"
+    try:
+        walked = subprocess.run([*launcher_of(arguments), arguments.walker, "--seed", str(seed), "--steps", str(arguments.steps), "--samples",
+                                 str(arguments.samples), str(scenario)], capture_output=True, timeout=120)
+        failure = editions.failure_of(scenario)
+        if walked.returncode and not failure:
+            failure = Failure("", f"the walker ended with {walked.returncode}: {walked.stderr.decode()}"
+                                  f"{walked.stdout.decode()[-400:]}")
+    except subprocess.TimeoutExpired:
+        failure = Failure("", f"the walker does not end; its steps are in {scenario}")
+    if not failure:
+        scenario.unlink()
+        return ""
+    text = f"The walk of seed {seed} failed: {failure.text}\n"
+    if failure.kind:
+        short = scenario.with_name(f"walk-{seed}-short.scenario")
+        short.write_text("\n".join(shrunk(editions, scenario, failure.kind)) + "\n", encoding="utf-8")
+        text += f"Shrunk to {short}:\n{short.read_text(encoding='utf-8')}"
+    return text
 
 
 def main():
@@ -121,28 +154,20 @@ def main():
     parser.add_argument("--seeds", type=int, default=40)
     parser.add_argument("--first-seed", type=int, default=1)
     parser.add_argument("--steps", type=int, default=500)
+    parser.add_argument("--jobs", type=int, default=2, help="how many walks run at a time")
     arguments = parser.parse_args()
 
-    launcher = [arguments.launcher] if arguments.launcher else []
-    player = [*launcher, arguments.player]
     arguments.work.mkdir(parents=True, exist_ok=True)
     for name in ("catalogue.xml", "configuration.xml", "cycle-standard.xml", "cycle-old.xml"):
         (arguments.work / name).write_bytes((arguments.samples / name).read_bytes())
-    for seed in range(arguments.first_seed, arguments.first_seed + arguments.seeds):
-        scenario = arguments.work / f"walk-{seed}.scenario"
-        walk = subprocess.run([*launcher, arguments.walker, "--seed", str(seed), "--steps", str(arguments.steps), "--samples",
-                               str(arguments.samples), str(scenario)], capture_output=True, timeout=600)
-        problem = f"the walker ended with {walk.returncode}: {walk.stderr.decode()}{walk.stdout.decode()[-400:]}" \
-            if walk.returncode else failure_of(player, arguments.editions, scenario)
-        if problem:
-            print(f"The walk of seed {seed} failed: {problem}")
-            if not walk.returncode:
-                short = scenario.with_name(f"walk-{seed}-short.scenario")
-                short.write_text("\n".join(shrunk(player, arguments.editions, scenario)) + "\n",
-                                 encoding="utf-8")
-                print(f"Shrunk to {short}:\n{short.read_text(encoding='utf-8')}")
-            return 1
-        scenario.unlink()
+    editions = Editions([*launcher_of(arguments), arguments.player], arguments.editions)
+    seeds = range(arguments.first_seed, arguments.first_seed + arguments.seeds)
+    with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as pool:
+        for failure in pool.map(lambda seed: walk(arguments, editions, seed), seeds):
+            if failure:
+                print(failure, flush=True)
+                pool.shutdown(cancel_futures=True)
+                return 1
     print(f"{arguments.seeds} walks of {arguments.steps} steps on {', '.join(arguments.editions)}: all rules hold")
     return 0
 

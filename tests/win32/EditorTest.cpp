@@ -87,7 +87,7 @@ TEST_F(Win32EditorTest, ACharacterOfTwoHalvesIsTypedOnce) {
 TEST_F(Win32EditorTest, AHostCallFinishesTheOpenEdit) {
   SetFocus(view());
   type(view(), L"8");
-  editor_.editor().settledControl().RetrieveCycle();
+  EXPECT_TRUE(editor_.editor().settle());
   EXPECT_FALSE(grid().isEditing());
   EXPECT_EQ(value(1), "8");
 }
@@ -138,6 +138,27 @@ TEST_F(Win32EditorTest, OutlivesItsWindow) {
   EXPECT_EQ(grid().RowCount(), 4);
   EXPECT_EQ(grid().Row(), 2);
   EXPECT_THAT(editor_.errors, IsEmpty());
+}
+
+TEST_F(Win32EditorTest, MayBeDestroyedWhileItTellsTheUser) {
+  SetFocus(view());
+  type(view(), L"5");
+  type(line(), L"00");
+  editor_.onMessage = [this] { editor_.destroy(); };
+  SetFocus(editor_.windows().txtCycleDescription.handle());
+  settle();
+  EXPECT_TRUE(editor_.isDestroyed());
+  EXPECT_EQ(editor_.messages.size(), 1U);
+  EXPECT_EQ(GetWindow(host_.handle(), GW_CHILD), nullptr);
+}
+
+TEST_F(Win32EditorTest, MayBeDestroyedByAButtonOfItsOwn) {
+  grid().setValue(1, 1, "500");
+  editor_.onMessage = [this] { editor_.destroy(); };
+  SendMessageW(editor_.windows().cmdInset.handle(), BM_CLICK, 0, 0);
+  settle();
+  EXPECT_TRUE(editor_.isDestroyed());
+  EXPECT_EQ(GetWindow(host_.handle(), GW_CHILD), nullptr);
 }
 
 TEST_F(Win32EditorTest, MovesBetweenWindows) {

@@ -56,7 +56,8 @@ class HostWindow : public PanelWindow {
 class TestEditor {
  public:
   explicit TestEditor(HWND parent)
-      : editor_(std::make_unique<Win32Editor>(parent, xmlDocuments_, onError(), services())) {
+      : editor_(std::make_unique<Win32Editor>(parent, std::make_unique<libxml2::Libxml2DocumentFactory>(), onError(),
+                                              services())) {
     constexpr RECT place{0, 0, 880, 560};
     editor_->screen().setPlace(place);
     settle();
@@ -64,7 +65,7 @@ class TestEditor {
 
   Win32Editor& editor() { return *editor_; }
   EditorControls& windows() { return editor_->screen().windows(); }
-  void load(std::string_view cycle = {}) { editor_->settledControl().SetXMLStrings(catalogue, cycle); }
+  void load(std::string_view cycle = {}) { editor_->control().SetXMLStrings(catalogue, cycle); }
   void destroy() { editor_.reset(); }
   bool isDestroyed() const { return editor_ == nullptr; }
 
@@ -86,7 +87,6 @@ class TestEditor {
     return services;
   }
 
-  libxml2::Libxml2DocumentFactory xmlDocuments_;
   std::unique_ptr<Win32Editor> editor_;
 };
 

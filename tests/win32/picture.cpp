@@ -9,7 +9,6 @@
 
 #include "Win32Driver.h"
 #include "Win32Hands.h"
-#include "libxml2/Libxml2DocumentFactory.h"
 #include "memory/MemoryServices.h"
 #include "memory/MemoryTimer.h"
 
@@ -69,11 +68,10 @@ int main(int argc, char** argv) {
   app.add_option("TO", to, "What the names of the pictures begin with")->required();
   CLI11_PARSE(app, argc, argv);
 
-  libxml2::Libxml2DocumentFactory xmlDocuments;
   win32::EditorServices services;
   services.messageBox = std::make_shared<memory::MemoryMessageBox>();
   services.gridTimer = std::make_shared<memory::MemoryTimer>();
-  play::Win32Driver driver(xmlDocuments, services, {}, [] {});
+  play::Win32Driver driver(services, {}, [] {});
   const HWND host = driver.hostWindow();
   SetWindowPos(host, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
   driver.settle();

@@ -2,6 +2,7 @@
 #include <rapidcheck.h>
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -148,6 +149,67 @@ TEST_P(XmlDocumentContract, AnyChangedDocumentIsWrittenAndReadAgain) {
   }));
 }
 
+/// Puts together an outline of what is heard: names, attributes, texts.
+class HeardOutline : public platform::XmlContent {
+ public:
+  void startElement(std::string_view name, const std::vector<platform::XmlAttribute>& attributes) override {
+    Element element{std::string(name), {}, {}};
+    for (const char* wanted : {"a", "b", "p:a"}) {
+      for (const auto& attribute : attributes) {
+        if (attribute.name == wanted) element.start += std::string(" ") + wanted + "=[" + attribute.value + "]";
+      }
+    }
+    open_.push_back(std::move(element));
+  }
+  void text(std::string_view piece) override {
+    for (Element& element : open_) element.text += piece;
+  }
+  void endElement() override {
+    const Element ended = std::move(open_.back());
+    open_.pop_back();
+    const std::string whole = ended.start + "[" + ended.text + "]" + ended.children;
+    (open_.empty() ? outline : open_.back().children) += "(" + whole + ")";
+  }
+
+  std::string outline;
+
+ private:
+  struct Element {
+    std::string start, text, children;
+  };
+  std::vector<Element> open_;
+};
+
+std::string loadedOutline(const XmlNode& node) {
+  std::string result(node.nodeName());
+  for (const char* name : {"a", "b", "p:a"}) {
+    if (const auto found = node.getAttributeNode(name)) result += std::string(" ") + name + "=[" + found->value + "]";
+  }
+  result += "[" + node.text() + "]";
+  for (const XmlNode& child : node.childNodes()) result += "(" + loadedOutline(child) + ")";
+  return result;
+}
+
+TEST_P(XmlDocumentContract, AnyDocumentIsHeardAsItIsLoaded) {
+  EXPECT_TRUE(rc::check([this] {
+    const std::string text = *documentText();
+    RC_ASSERT(document().loadXML(text));
+    HeardOutline heard;
+    RC_ASSERT(factory().readDocument(text, heard));
+    RC_ASSERT(heard.outline == "(" + loadedOutline(document().selectSingleNode("r")) + ")");
+  }));
+}
+
+TEST_P(XmlDocumentContract, ALineEndInTwoPiecesIsHeardAsOne) {
+  for (const char* text : {"<r>1&#13;&#10;2&#13;<!-- c -->&#10;3</r>", "<r>1&#13;\r\n2</r>",
+                           "<r a='&amp;&#38;lt;&#13;&#10;'/>", "<r>&#13;&#10;</r>", "<r> <![CDATA[\n]]> x</r>"}) {
+    load(text);
+    HeardOutline heard;
+    EXPECT_TRUE(factory().readDocument(text, heard));
+    EXPECT_EQ(heard.outline, "(" + loadedOutline(document().selectSingleNode("r")) + ")") << text;
+  }
+}
+
 // A document with a scrap put in somewhere, or with a piece cut out of it.
 std::string spoiled(std::string text, const std::string& scrap) {
   const auto position = [&text] { return *rc::gen::inRange<std::size_t>(0, text.size() + 1); };
@@ -197,6 +259,8 @@ TEST_P(XmlDocumentContract, AnySpoiledDocumentIsLoadedOrRefused) {
     const std::string text = spoiled(*documentText(), *scrap);
     const bool loaded = document().loadXML(text);
     RC_CLASSIFY(loaded);
+    HeardOutline heard;
+    RC_ASSERT(factory().readDocument(text, heard) == loaded);
     if (loaded) {
       requireWritesWhatItHolds(document(), *other);
     } else {

@@ -28,6 +28,7 @@ class XmlDocumentContract : public testing::TestWithParam<XmlImplementation> {
  protected:
   XmlDocumentContract();
 
+  platform::XmlDocumentFactory& factory() { return *factory_; }
   platform::XmlDocument& document() { return *document_; }
   std::unique_ptr<platform::XmlDocument> otherDocument() { return factory_->createDocument(); }
 

@@ -30,8 +30,8 @@ class EditorControl;
 /// host that destroys the control from a slot of CycleEditorError calls deleteLater().
 class ctlCycEd : public QWidget {
   Q_OBJECT
-  /// Write-only. True: atoms, objects and arguments that the catalogue and the configuration mark as hidden are offered
-  /// all the same. It takes effect at the next SetXMLStrings. False at first.
+  /// Write-only. True: further atoms of the configuration and objects of the catalogue that are marked as hidden are
+  /// offered all the same. It takes effect at the next SetXMLStrings. False at first.
   Q_PROPERTY(bool Ignore_Hidden WRITE setIgnore_Hidden)
   /// Read-only. Whether the cycle, as RetrieveCycle would hand it back, differs from the one that was loaded or handed
   /// back last. It is found out anew at every reading, by writing the cycle and comparing: a change that was taken back

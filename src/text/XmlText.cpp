@@ -1,5 +1,6 @@
-#include "libxml2/CharacterRules.h"
+#include "text/XmlText.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -7,7 +8,7 @@
 #include "text/LineEnds.h"
 #include "text/Utf8.h"
 
-namespace mavCycEd::libxml2 {
+namespace mavCycEd::text {
 namespace {
 
 constexpr char32_t replacementCharacter = 0xFFFD;
@@ -65,14 +66,22 @@ std::string toAllowedCharacters(std::string_view text) {
     if (text.empty()) break;
     std::size_t size = surrogateSize(text);
     if (size == 0) {
-      size = text::firstCharacterSize(text);
-      const char32_t character = text::firstCharacter(text);
-      if (!isForbidden(character)) text::append(result, character);
+      size = firstCharacterSize(text);
+      const char32_t character = firstCharacter(text);
+      if (!isForbidden(character)) append(result, character);
     }
     text.remove_prefix(size);
   }
   return result;
 }
+
+// ASCII characters that stand for themselves between two tags, but for ">".
+constexpr std::array<bool, 256> makePlainTable() {
+  std::array<bool, 256> plain{};
+  for (std::size_t code = 0x20; code < 0x80; ++code) plain[code] = code != '<' && code != '&' && code != '>';
+  return plain;
+}
+constexpr std::array<bool, 256> isPlain = makePlainTable();
 
 }  // namespace
 
@@ -80,8 +89,8 @@ bool isXmlText(std::string_view text) {
   while (true) {
     text.remove_prefix(asciiRun(text));
     if (text.empty()) return true;
-    const std::size_t size = text::firstCharacterSize(text);
-    const char32_t character = text::firstCharacter(text);
+    const std::size_t size = firstCharacterSize(text);
+    const char32_t character = firstCharacter(text);
     if (isForbidden(character) || isNoUtf8(character, size)) return false;
     text.remove_prefix(size);
   }
@@ -89,12 +98,39 @@ bool isXmlText(std::string_view text) {
 
 std::string toXmlText(std::string_view text) {
   std::string result = isXmlText(text) ? std::string(text) : toAllowedCharacters(text);
-  return result.find('\r') == std::string::npos ? result : text::toLf(result);
+  return result.find('\r') == std::string::npos ? result : toLf(result);
 }
 
-bool isLayout(const char* text, bool besideMarkup) {
-  if (text[std::strspn(text, " \t\r\n")] != '\0') return false;
-  return besideMarkup || std::strpbrk(text, "\r\n") != nullptr;
+bool appendPlainXml(std::string& xml, std::string_view text) {
+  constexpr std::string_view sectionEnd = "]]>";
+  std::size_t copied = 0;
+  bool checked = false;  // the rest has no byte that is no XML
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if (isPlain[byte] || (byte >= 0x80 && checked)) continue;
+    if (byte >= 0x80) {
+      checked = isXmlText(text.substr(i));
+      if (!checked) return false;
+    } else if (byte == '>') {
+      if (text.substr(0, i + 1).ends_with(sectionEnd)) return false;
+      xml.append(text, copied, i - copied).append("&gt;");
+      copied = i + 1;
+    } else {
+      return false;
+    }
+  }
+  xml.append(text, copied);
+  return true;
 }
 
-}  // namespace mavCycEd::libxml2
+void appendEscapedXml(std::string& xml, std::string_view text) {
+  std::size_t copied = 0;
+  for (std::size_t i = text.find_first_of("<>&"); i != std::string_view::npos; i = text.find_first_of("<>&", i + 1)) {
+    xml.append(text, copied, i - copied);
+    xml.append(text[i] == '<' ? "&lt;" : text[i] == '>' ? "&gt;" : "&amp;");
+    copied = i + 1;
+  }
+  xml.append(text, copied);
+}
+
+}  // namespace mavCycEd::text

@@ -1,0 +1,93 @@
+#include <malloc.h>
+
+#include <memory>
+#include <string>
+
+#include "Comparison.h"
+#include "Data.h"
+#include "Editor.h"
+#include "Works.h"
+
+namespace mavCycEd::bench {
+namespace {
+
+double bytesInUse() { return static_cast<double>(mallinfo2().uordblks + mallinfo2().hblkhd); }
+
+std::function<double()> pickingAnAtom(int atoms, int objects) {
+  return [atoms, objects, editor = std::make_shared<std::unique_ptr<Editor>>()] {
+    if (!*editor) {
+      *editor = std::make_unique<Editor>();
+      (*editor)->control().SetXMLStrings(catalogueOf(atoms, objects), {});
+    }
+    platform::ComboBox& picker = (*editor)->screen().cboAtom;
+    return secondsOf([&] { picker.setText("PICKED"); });
+  };
+}
+
+std::function<double()> loadingAMacro(int lines) {
+  return [lines, macro = macroOf(lines)] {
+    Editor editor;
+    editor.control().SetConfigXML(instrument().configuration);
+    return secondsOf([&] { editor.control().SetXMLStrings(instrument().catalogue, macro); });
+  };
+}
+
+double bytesAfterLoading(int lines) {
+  const std::string& cycle = cycleOf(lines);
+  const double before = bytesInUse();
+  const std::unique_ptr<Editor> editor = loadedEditor(cycle);
+  return bytesInUse() - before;
+}
+
+/// The memory in use before and after lines were selected to and fro.
+struct Selections {
+  double before = 0;
+  double after = 0;
+};
+
+Selections bytesOverSelections(int lines, int selections) {
+  const std::unique_ptr<Editor> editor = loadedEditor(cycleOf(lines));
+  platform::ListBox& list = editor->screen().lstAtomSequence;
+  const auto select = [&](int times) {
+    for (int i = 0; i < times; ++i) list.setIndex(i % 2 == 0 ? lines / 2 : lines / 3);
+  };
+  select(10);
+  Selections bytes{.before = bytesInUse(), .after = 0};
+  select(selections);
+  bytes.after = bytesInUse();
+  return bytes;
+}
+
+}  // namespace
+
+void addCatalogueWorks() {
+  compare({.work = "picking an atom, 2,000 atoms and 10,000 objects against 20 and 100",
+           .lines = 0,
+           .target = 2.0,
+           .ours = pickingAnAtom(2000, 10000),
+           .yardstick = pickingAnAtom(20, 100)});
+  for (const int lines : sizes) {
+    compare({.work = "loading a macro text, 2n lines against n",
+             .lines = lines,
+             .target = 2.3,
+             .ours = loadingAMacro(2 * lines),
+             .yardstick = loadingAMacro(lines)});
+  }
+  for (const int lines : sizes) {
+    compare({.work = "memory after loading, against the size of the text",
+             .lines = lines,
+             .target = 6.0,
+             .ours = [lines] { return bytesAfterLoading(lines); },
+             .yardstick = [lines] { return static_cast<double>(cycleOf(lines).size()); },
+             .timed = false});
+  }
+  constexpr int selections = 10000;
+  compare({.work = "memory after 10,000 selections to and fro, against before",
+           .lines = 1000,
+           .target = 1.0,
+           .ours = [] { return bytesOverSelections(1000, selections).after; },
+           .yardstick = [] { return bytesOverSelections(1000, selections).before; },
+           .timed = false});
+}
+
+}  // namespace mavCycEd::bench

@@ -1,0 +1,161 @@
+#include "cycle/LoadedCycle.h"
+
+#include <utility>
+
+#include "platform/XmlContent.h"
+
+namespace mavCycEd {
+namespace {
+
+/// Where in a cycle document an element stands.
+enum class Place {
+  Elsewhere,
+  Cycle,
+  Description,
+  Variables,
+  Variable,
+  Version,
+  AtomSequence,
+  Atoms,
+  Atom,
+  AtomName,
+  Parameters,
+  Parameter,
+  ParamName,
+  ParamValue,
+};
+
+/// Puts what is heard where it belongs. Of elements that a path leads to several times the first one counts, except for
+/// those that are lists.
+class CycleContent : public platform::XmlContent {
+ public:
+  void startElement(std::string_view name, const std::vector<platform::XmlAttribute>& attributes) override {
+    ++depth_;
+    cycle.isEmpty = false;
+    if (depth_ > placedDepth_ + 1) return;  // in an element that is read as a text, or not at all
+    const Place place = placeOf(name);
+    if (place == Place::Elsewhere) return;
+    places_.push_back(place);
+    placedDepth_ = depth_;
+    start(place, attributes);
+  }
+
+  void text(std::string_view piece) override {
+    if (text_ != nullptr) text_->append(piece);
+  }
+
+  void endElement() override {
+    if (depth_-- != placedDepth_) return;
+    end(places_.back());
+    places_.pop_back();
+    --placedDepth_;
+  }
+
+  LoadedCycle cycle;
+
+ private:
+  Place placeOf(std::string_view name) const {
+    if (places_.empty()) return depth_ == 1 && name == "CYCLE" ? Place::Cycle : Place::Elsewhere;
+    switch (places_.back()) {
+      case Place::Cycle: return placeInCycle(name);
+      case Place::Variables: return Place::Variable;
+      case Place::AtomSequence: return name == "ATOMS" && !cycle.hasAtoms ? Place::Atoms : Place::Elsewhere;
+      case Place::Atoms: return name == "ATOM" && !cycle.lacksElement ? Place::Atom : Place::Elsewhere;
+      case Place::Atom:
+        if (name == "ATOMNAME" && !atomName_) return Place::AtomName;
+        return name == "PARAMETERS" ? Place::Parameters : Place::Elsewhere;
+      case Place::Parameters: return name == "PARAMETER" ? Place::Parameter : Place::Elsewhere;
+      case Place::Parameter:
+        if (name == "PARAMNAME" && !paramName_) return Place::ParamName;
+        return name == "PARAMVALUE" && !paramValue_ ? Place::ParamValue : Place::Elsewhere;
+      default: return Place::Elsewhere;
+    }
+  }
+
+  Place placeInCycle(std::string_view name) const {
+    if (name == "DESCRIPTION" && !cycle.description) return Place::Description;
+    if (name == "VARIABLES" && !cycle.variables) return Place::Variables;
+    if (name == "VERSION" && !cycle.facts.version) return Place::Version;
+    return name == "ATOMSEQUENCE" ? Place::AtomSequence : Place::Elsewhere;
+  }
+
+  void start(Place place, const std::vector<platform::XmlAttribute>& attributes) {
+    switch (place) {
+      case Place::Cycle: takeTimestamps(attributes); break;
+      case Place::Description: text_ = &cycle.description.emplace(); break;
+      case Place::Variables: variables_ = &cycle.variables.emplace(); break;
+      case Place::Variable: text_ = &variables_->emplace_back(); break;
+      case Place::Version: text_ = &cycle.facts.version.emplace(); break;
+      case Place::Atoms: cycle.hasAtoms = true; break;
+      case Place::Atom: startAtom(); break;
+      case Place::AtomName: text_ = &atomName_.emplace(); break;
+      case Place::Parameter: startParameter(); break;
+      case Place::ParamName: text_ = &paramName_.emplace(); break;
+      case Place::ParamValue: text_ = &paramValue_.emplace(); break;
+      default: break;
+    }
+  }
+
+  void end(Place place) {
+    text_ = nullptr;
+    if (place == Place::Parameter) endParameter();
+    if (place == Place::Atom) endAtom();
+  }
+
+  void takeTimestamps(const std::vector<platform::XmlAttribute>& attributes) {
+    for (const platform::XmlAttribute& attribute : attributes) {
+      if (attribute.name == "Created") cycle.facts.created = attribute.value;
+      if (attribute.name == "Modified") cycle.facts.modified = attribute.value;
+    }
+  }
+
+  void startAtom() {
+    atomName_.reset();
+    parameters_.clear();
+    atomLacksElement_ = false;
+  }
+
+  void startParameter() {
+    paramName_.reset();
+    paramValue_.reset();
+  }
+
+  void endParameter() {
+    if (!paramName_ || !paramValue_) {
+      atomLacksElement_ = true;
+      return;
+    }
+    if (!parameters_.empty()) parameters_ += '\r';
+    parameters_.append(*paramName_).append(";").append(*paramValue_);
+  }
+
+  void endAtom() {
+    if (!atomName_ || atomLacksElement_) {
+      cycle.lacksElement = true;
+      return;
+    }
+    if (parameters_.starts_with(';')) parameters_.erase(0, 1);
+    cycle.atomLines.push_back({std::move(*atomName_), parameters_});
+  }
+
+  int depth_ = 0;
+  int placedDepth_ = 0;          // of the innermost open element that has a place
+  std::vector<Place> places_;    // of the open elements that have one
+  std::string* text_ = nullptr;  // what the text goes to; null: nowhere
+  std::vector<std::string>* variables_ = nullptr;
+  std::optional<std::string> atomName_;
+  std::string parameters_;
+  bool atomLacksElement_ = false;
+  std::optional<std::string> paramName_;
+  std::optional<std::string> paramValue_;
+};
+
+}  // namespace
+
+LoadedCycle readCycle(std::string_view text, platform::XmlDocumentFactory& xmlDocuments) {
+  CycleContent content;
+  if (!xmlDocuments.readDocument(text, content)) return {};
+  return std::move(content.cycle);
+}
+
+}  // namespace mavCycEd
