@@ -85,13 +85,16 @@ class CellEditor::Combo : public NativeWindow {
  protected:
   void onCommand(int notification) override {
     if (notification == CBN_EDITCHANGE) editor_.noteTyping();
-    if (notification == CBN_SELENDOK) post(Picked);
+    if (notification != CBN_SELENDOK) return;
+    picked_ = static_cast<int>(send(CB_GETCURSEL));
+    post(Picked);
   }
 
-  void onPosted(int) override { tell(editor_.events_.picked, static_cast<int>(send(CB_GETCURSEL))); }
+  void onPosted(int) override { tell(editor_.events_.picked, picked_); }
 
  private:
   CellEditor& editor_;
+  int picked_ = -1;
 };
 
 CellEditor::CellEditor(HWND grid, const std::vector<std::string>& list, const FontHandle& font, int dpi, Events events)

@@ -106,10 +106,13 @@ std::optional<LRESULT> Win32ComboBox::onMessage(UINT message, WPARAM wParam, LPA
 
 void Win32ComboBox::onCommand(int notification) {
   switch (notification) {
-    case CBN_SELENDOK: post(Picked); break;
+    case CBN_SELENDOK:
+      picked_ = static_cast<int>(send(CB_GETCURSEL));
+      post(Picked);
+      break;
     case CBN_SELENDCANCEL:
       // What was only looked at in the list is not chosen.
-      if (mode_ == Mode::PickOnly) showNow();
+      if (mode_ == Mode::PickOnly && picked_ < 0) showNow();
       break;
     case CBN_EDITCHANGE:
       if (showing_) return;
@@ -130,7 +133,7 @@ void Win32ComboBox::onPosted(int what) {
     if (!stays) tell(events_.LostFocus);
     return;
   }
-  const int picked = static_cast<int>(send(CB_GETCURSEL));
+  const int picked = std::exchange(picked_, -1);
   if (picked < 0 || picked >= itemCount()) return;
   show(picked, itemText(picked));
   const Lifeline::Watch alive = lifeline_.watch();

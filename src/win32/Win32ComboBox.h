@@ -53,6 +53,7 @@ class Win32ComboBox : public platform::ComboBox, public NativeWindow {
   int index_ = -1;
   std::string text_;
   bool showing_ = false;
+  int picked_ = -1;  // by the user, and not told yet
 };
 
 }  // namespace mavCycEd::win32

@@ -140,6 +140,17 @@ TEST_F(Win32EditorTest, OutlivesItsWindow) {
   EXPECT_THAT(editor_.errors, IsEmpty());
 }
 
+// The system may take back what its list shows before a pick has been told.
+TEST_F(Win32EditorTest, APickStaysWhenTheListIsLeftRightAfterIt) {
+  const HWND combo = editor_.windows().cboAtom.handle();
+  SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);
+  SendMessageW(combo, CB_SETCURSEL, 1, 0);
+  SendMessageW(combo, WM_KEYDOWN, VK_RETURN, 1);
+  SendMessageW(GetParent(combo), WM_COMMAND, MAKEWPARAM(0, CBN_SELENDCANCEL), reinterpret_cast<LPARAM>(combo));
+  settle();
+  EXPECT_EQ(editor_.windows().cboAtom.text(), "WAIT");
+}
+
 TEST_F(Win32EditorTest, MayBeDestroyedWhileItTellsTheUser) {
   SetFocus(view());
   type(view(), L"5");
