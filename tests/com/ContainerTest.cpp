@@ -1,4 +1,7 @@
+#include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "ControlSite.h"
 #include "Library.h"
@@ -135,16 +138,68 @@ TEST_F(ContainerTest, AContainerThatDestroysItsWindowFirstDoesNoHarm) {
   EXPECT_NE(cycleOf(*site).find(L"WAIT(7,)"), std::wstring::npos);
 }
 
+// A user picks an atom whose definition fails, and the host answers the event by closing the editor for good.
 TEST_F(ContainerTest, TheControlMayGoInAnswerToItsEvent) {
   Placed site = placed();
-  EXPECT_EQ(site->editor().SetXMLStrings(Text(catalogue), Text(L"")), S_OK);
+  EXPECT_EQ(site->editor().SetXMLStrings(
+                Text(L"<LATESTKAM><ATOMS><ATOM><AtomName>BAD</AtomName><Param></Param></ATOM></ATOMS></LATESTKAM>"),
+                Text(L"")),
+            S_OK);
   int errors = 0;
   site->onError([&](const EditorError&) {
     ++errors;
     site.reset();
   });
-  site->editor().SetXMLStrings(Text(L""), Text(L""));
+  const HWND atoms = FindWindowExW(site->controlWindow(), nullptr, L"ComboBox", nullptr);
+  SetFocus(atoms);
+  PostMessageW(atoms, WM_CHAR, L'b', 0);
+  pump();
   EXPECT_EQ(errors, 1);
+  EXPECT_FALSE(site);
+}
+
+// A value beyond its range is told in a message box, in the middle of the host's call. While it is open the container
+// opens no dialog of its own; that the host closes the editor meanwhile does no harm.
+class MessageTest : public ContainerTest {
+ protected:
+  MessageTest() {
+    current_ = this;
+    SetTimer(frame_, timer, 100, [](HWND, UINT, UINT_PTR, DWORD) { current_->lookForMessage(); });
+  }
+  ~MessageTest() override {
+    KillTimer(frame_, timer);
+    current_ = nullptr;
+  }
+
+  void lookForMessage() {
+    const HWND box = FindWindowW(L"#32770", L"cycle editor component - ctlCycEd Control");
+    if (box == nullptr) return;
+    ++messages_;
+    if (whileOpen_) std::exchange(whileOpen_, nullptr)();
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+  }
+
+  static constexpr UINT_PTR timer = 1;
+  static inline MessageTest* current_ = nullptr;
+  int messages_ = 0;
+  std::function<void()> whileOpen_;
+};
+
+TEST_F(MessageTest, TheContainerWaitsWhileAMessageIsOpen) {
+  const Placed site = placed();
+  std::vector<bool> enabled;
+  site->onEnableModeless([&](bool enable) { enabled.push_back(enable); });
+  EXPECT_EQ(site->editor().SetXMLStrings(Text(catalogue), Text(L"[PMA]\r\n//\r\nWAIT(999)\r\n")), S_OK);
+  EXPECT_GE(messages_, 1);
+  EXPECT_EQ(enabled, std::vector<bool>({false, true}));
+}
+
+TEST_F(MessageTest, TheHostMayCloseTheEditorWhileAMessageIsOpen) {
+  Placed site = placed();
+  whileOpen_ = [&] { site.reset(); };
+  const ComPtr<_ctlCycEd> editor(&site->editor());
+  EXPECT_EQ(editor->SetXMLStrings(Text(catalogue), Text(L"[PMA]\r\n//\r\nWAIT(999)\r\n")), S_OK);
+  EXPECT_GE(messages_, 1);
   EXPECT_FALSE(site);
 }
 

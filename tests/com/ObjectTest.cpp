@@ -134,6 +134,26 @@ TEST_F(ObjectTest, IsSafeForStrangers) {
   EXPECT_EQ(safety->GetInterfaceSafetyOptions(IID_IStorage, &supported, &enabled), E_NOINTERFACE);
 }
 
+TEST_F(ObjectTest, ItsFileHasItsVersionAndItsLooks) {
+  const HMODULE module = GetModuleHandleW(L"mavCycEd.dll");
+  std::array<wchar_t, MAX_PATH> file{};
+  GetModuleFileNameW(module, file.data(), MAX_PATH);
+  std::vector<char> version(GetFileVersionInfoSizeW(file.data(), nullptr));
+  ASSERT_FALSE(version.empty());
+  ASSERT_NE(GetFileVersionInfoW(file.data(), 0, static_cast<DWORD>(version.size()), version.data()), FALSE);
+  VS_FIXEDFILEINFO* fixed = nullptr;
+  UINT size = 0;
+  ASSERT_NE(VerQueryValueW(version.data(), L"\\", reinterpret_cast<void**>(&fixed), &size), FALSE);
+  EXPECT_EQ(std::to_string(HIWORD(fixed->dwFileVersionMS)) + "." + std::to_string(LOWORD(fixed->dwFileVersionMS)) +
+                "." + std::to_string(HIWORD(fixed->dwFileVersionLS)),
+            MAVCYCED_TEST_VERSION);
+  constexpr int manifestOfALibrary = 2;
+  EXPECT_NE(FindResourceW(module, MAKEINTRESOURCEW(manifestOfALibrary), RT_MANIFEST), nullptr);
+  const HBITMAP toolbox = LoadBitmapW(module, MAKEINTRESOURCEW(1));
+  EXPECT_NE(toolbox, nullptr);
+  DeleteObject(toolbox);
+}
+
 TEST_F(ObjectTest, StoresItsSizeAndNothingElse) {
   const ComPtr<IUnknown> control = library_.control();
   const auto persistence = control.as<IPersistStreamInit>();

@@ -139,6 +139,12 @@ void ControlSite::activate(MSG* message) {
   object_->DoVerb(OLEIVERB_UIACTIVATE, message, this, 0, parent_, &position_);
 }
 
+void ControlSite::deactivate() {
+  IOleInPlaceObject* control = askFor<IOleInPlaceObject>(editor_);
+  if (control != nullptr) control->UIDeactivate();
+  letGo(control);
+}
+
 bool ControlSite::translate(MSG& message) {
   return activeObject_ != nullptr && activeObject_->TranslateAccelerator(&message) == S_OK;
 }
@@ -203,8 +209,10 @@ STDMETHODIMP ControlSite::GetWindow(HWND* window) {
   return S_OK;
 }
 
-// Two editors on a window: the one that has had the user's attention gives it up.
-STDMETHODIMP ControlSite::OnUIActivate() { return S_OK; }
+STDMETHODIMP ControlSite::OnUIActivate() {
+  if (activated_) activated_();
+  return S_OK;
+}
 
 STDMETHODIMP ControlSite::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT position,
                                            LPRECT clip, LPOLEINPLACEFRAMEINFO info) {

@@ -44,12 +44,15 @@ class ControlSite : public IOleClientSite,
   void place(const RECT& rect);
   /// Gives the editor the user's attention; `message` is the key that led to it.
   void activate(MSG* message);
+  void deactivate();
   bool isActive() const { return activeObject_ != nullptr; }
   /// Offers a key of the message loop to the editor. True when it is done with.
   bool translate(MSG& message);
   /// Whether Alt and this character press one of the editor's buttons.
   bool pressAccessKey(MSG& message);
 
+  /// The editor takes the user's attention.
+  void onActivated(std::function<void()> handler) { activated_ = std::move(handler); }
   /// The Tab key has left the editor.
   void onTabOut(std::function<void(bool backwards)> handler) { tabOut_ = std::move(handler); }
   void onError(std::function<void(const EditorError&)> handler) { error_ = std::move(handler); }
@@ -130,6 +133,7 @@ class ControlSite : public IOleClientSite,
   OLE_COLOR background_ = 0;
   OLE_COLOR text_ = 0;
   IFontDisp* font_ = nullptr;
+  std::function<void()> activated_;
   std::function<void(bool)> tabOut_;
   std::function<void(const EditorError&)> error_;
   std::function<void(bool)> modeless_;
