@@ -12,10 +12,12 @@ namespace {
 /// The control in a container's window.
 class ContainerTest : public ComTest {
  protected:
-  ContainerTest()
-      : frame_(CreateWindowExW(0, L"STATIC", L"container", WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0,
-                               900, 700, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr)) {}
   ~ContainerTest() override { DestroyWindow(frame_); }
+
+  static HWND newFrame() {
+    return CreateWindowExW(0, L"STATIC", L"container", WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 900,
+                           700, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+  }
 
   struct Close {
     void operator()(ControlSite* site) const { site->close(); }
@@ -32,7 +34,7 @@ class ContainerTest : public ComTest {
     return copy;
   }
 
-  HWND frame_;
+  HWND frame_ = newFrame();
   RECT place_{10, 20, 710, 520};
 };
 
@@ -74,9 +76,13 @@ TEST_F(ContainerTest, WhatIsOnTheScreenOutlastsItsPlace) {
   const auto editor = control.as<_ctlCycEd>();
   EXPECT_EQ(editor->SetXMLStrings(Text(catalogue), Text(macroText)), S_OK) << "before there is a place";
   for (int i = 0; i < 2; ++i) {
-    const Placed site(ControlSite::create(frame_, place_, control.get()));
+    const HWND frame = newFrame();
+    Placed site(ControlSite::create(frame, place_, control.get()));
     ASSERT_TRUE(site);
+    EXPECT_NE(IsChild(frame, site->controlWindow()), FALSE);
     EXPECT_NE(cycleOf(*site).find(L"WAIT(7,)"), std::wstring::npos);
+    site.reset();
+    DestroyWindow(frame);
   }
   HWND window = nullptr;
   EXPECT_EQ(control.as<IOleWindow>()->GetWindow(&window), E_FAIL);
