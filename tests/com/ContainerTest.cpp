@@ -136,6 +136,15 @@ TEST_F(ContainerTest, FollowsTheSurroundings) {
   EXPECT_EQ(shown.lfHeight, -27) << "20 points at 96 dots per inch";
 }
 
+TEST_F(ContainerTest, TakesNoInputWhileTheContainerIsDesigned) {
+  const Placed site = placed();
+  EXPECT_NE(IsWindowEnabled(site->controlWindow()), FALSE);
+  site->setDesigned(true);
+  EXPECT_EQ(IsWindowEnabled(site->controlWindow()), FALSE);
+  site->setDesigned(false);
+  EXPECT_NE(IsWindowEnabled(site->controlWindow()), FALSE);
+}
+
 TEST_F(ContainerTest, AContainerThatDestroysItsWindowFirstDoesNoHarm) {
   const Placed site = placed();
   EXPECT_EQ(site->editor().SetXMLStrings(Text(catalogue), Text(macroText)), S_OK);

@@ -169,6 +169,15 @@ void ControlSite::setAmbient(OLE_COLOR background, OLE_COLOR text, IFontDisp* fo
   if (font != nullptr) font->AddRef();
   letGo(font_);
   font_ = font;
+  tellAmbientChange();
+}
+
+void ControlSite::setDesigned(bool designed) {
+  designed_ = designed;
+  tellAmbientChange();
+}
+
+void ControlSite::tellAmbientChange() {
   IOleControl* control = askFor<IOleControl>(editor_);
   if (control != nullptr) control->OnAmbientPropertyChange(DISPID_UNKNOWN);
   letGo(control);
@@ -268,7 +277,7 @@ STDMETHODIMP ControlSite::Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS*,
   switch (member) {
     case DISPID_AMBIENT_USERMODE:
       result->vt = VT_BOOL;
-      result->boolVal = VARIANT_TRUE;
+      result->boolVal = designed_ ? VARIANT_FALSE : VARIANT_TRUE;
       return S_OK;
     case DISPID_AMBIENT_BACKCOLOR:
     case DISPID_AMBIENT_FORECOLOR:

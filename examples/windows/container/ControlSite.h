@@ -60,6 +60,8 @@ class ControlSite : public IOleClientSite,
   void onEnableModeless(std::function<void(bool enable)> handler) { modeless_ = std::move(handler); }
   /// The colours and the font that the editor finds around it.
   void setAmbient(OLE_COLOR background, OLE_COLOR text, IFontDisp* font);
+  /// Whether the window is being designed and not used.
+  void setDesigned(bool designed);
 
   STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
   STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
@@ -120,6 +122,7 @@ class ControlSite : public IOleClientSite,
   virtual ~ControlSite();
   HRESULT open(IUnknown* control);
   HRESULT listen();
+  void tellAmbientChange();
 
   ULONG references_ = 1;
   HWND parent_;
@@ -129,6 +132,7 @@ class ControlSite : public IOleClientSite,
   IOleInPlaceActiveObject* activeObject_ = nullptr;
   IConnectionPoint* events_ = nullptr;
   DWORD cookie_ = 0;
+  bool designed_ = false;
   bool hasAmbient_ = false;
   OLE_COLOR background_ = 0;
   OLE_COLOR text_ = 0;
