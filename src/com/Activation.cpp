@@ -90,7 +90,7 @@ void Activation::deactivate() {
   inPlaceSite_ = {};
   frame_ = {};
   document_ = {};
-  session_.screen().gate().pass();
+  session_.settledEditor();
   session_.window().hide();
   site->OnInPlaceDeactivate();
 }

@@ -1,8 +1,15 @@
 #include "com/EditorSession.h"
 
 #include "com/ModalMessageBox.h"
+#include "libxml2/Libxml2DocumentFactory.h"
 
 namespace mavCycEd::com {
+
+EditorControl& EditorSession::settledEditor() {
+  // What the end of the edit leads to cannot destroy the editor: the host's call keeps it.
+  editorOnScreen().settle();
+  return editor();
+}
 
 ControlWindow& EditorSession::window() {
   editorOnScreen();
@@ -14,7 +21,8 @@ win32::Win32Editor& EditorSession::editorOnScreen() {
   auto messageBox = std::make_shared<ModalMessageBox>([this] { return editor_ ? screen().window() : nullptr; },
                                                       [this](bool open) { modalChanged(open); });
   auto editor = std::make_unique<win32::Win32Editor>(
-      nullptr, xmlDocuments_, [this](const CycleEditorErrorEvent& event) { events_.raise(event); },
+      nullptr, std::make_unique<libxml2::Libxml2DocumentFactory>(),
+      [this](const CycleEditorErrorEvent& event) { events_.raise(event); },
       win32::EditorServices{.messageBox = std::move(messageBox)});
   if (editor->screen().window() == nullptr) throw Failure(E_OUTOFMEMORY);
   editor->screen().setModality([this](bool open) { modalChanged(open); });

@@ -8,7 +8,6 @@
 #include "com/ControlWindow.h"
 #include "com/Events.h"
 #include "com/Lifetime.h"
-#include "libxml2/Libxml2DocumentFactory.h"
 #include "win32/Win32Editor.h"
 
 namespace mavCycEd::com {
@@ -23,7 +22,7 @@ class EditorSession {
   EditorControl& editor() { return editorOnScreen().control(); }
   /// For a call of the host's that changes what is shown or takes the cycle: a value that is being typed is finished
   /// first.
-  EditorControl& settledEditor() { return editorOnScreen().settledControl(); }
+  EditorControl& settledEditor();
 
   win32::EditorScreen& screen() { return editorOnScreen().screen(); }
   ControlWindow& window();
@@ -42,7 +41,6 @@ class EditorSession {
   std::function<void()> mouseActivated_;
   std::function<void(bool)> modal_;
   std::vector<std::unique_ptr<Lifetime::StayWhileModal>> stays_;
-  libxml2::Libxml2DocumentFactory xmlDocuments_;
   std::unique_ptr<win32::Win32Editor> editor_;
   std::unique_ptr<ControlWindow> window_;
 };
