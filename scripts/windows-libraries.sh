@@ -85,7 +85,8 @@ build_windows_libraries() {
     READER REGEXPS SAX1 SCHEMAS SCHEMATRON TESTS WRITER XINCLUDE XPATH XPTR ZLIB; do
     off+=("-DLIBXML2_WITH_$option=OFF")
   done
-  build_library libxml2 "$libraries/sources/libxml2" "${off[@]}"
+  # Static also for itself: otherwise whoever is linked with it exports its functions.
+  build_library libxml2 "$libraries/sources/libxml2" -DCMAKE_C_FLAGS=-DLIBXML_STATIC "${off[@]}"
   build_library googletest /usr/src/googletest -DCMAKE_CXX_STANDARD=20
   copy_headers
   printf '%s\n' "$wanted" >"$libraries/versions"

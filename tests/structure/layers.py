@@ -25,6 +25,7 @@ ROOMS = {
     "memory": CORE,
     "qt": (*CORE, "libxml2"),
     "win32": CORE,
+    "com": (*CORE, "libxml2", "win32"),
 }
 
 # Single headers behind which the rest of their room stays hidden from other rooms.
@@ -34,6 +35,7 @@ ONLY_HEADER_FOR_ROOMS = {"libxml2": "libxml2/Libxml2DocumentFactory.h"}
 LIBRARIES = {
     "libxml2": re.compile(r"libxml/\w+\.h"),
     "qt": re.compile(r"Q\w+(/\w+)?"),
+    "com": re.compile(r"(objsafe|ocidl|ole2|oleauto|olectl|initguid|mavCycEdTypes)\.h"),
     "win32": re.compile(r"(windows|windowsx|commctrl|oleacc|oleauto|uxtheme|vssym32)\.h"),
 }
 
@@ -205,6 +207,7 @@ def self_test():
         ("src/text/Bad.h", "#include <QString>\n", "src/text/Bad.h:1: the room \"text\" may not include <QString>"),
         ("src/text/Bad.h", "#include <windows.h>\n", "may not include <windows.h>"),
         ("src/qt/Bad.cpp", "#include <windows.h>\n", "may not include <windows.h>"),
+        ("src/com/Bad.h", '#include "qt/Editor.h"\n', 'the room "com" may not include "qt/Editor.h"'),
         ("src/win32/Bad.cpp", "#include <QWidget>\n", 'the room "win32" may not include <QWidget>'),
         ("src/win32/Bad.h", '#include "qt/Editor.h"\n', 'the room "win32" may not include "qt/Editor.h"'),
         ("src/control/Bad.cpp", "\n\n#include <libxml/tree.h>\n", "src/control/Bad.cpp:3: the room \"control\""),
