@@ -30,7 +30,7 @@ while (($# > 0)); do
   shift
 done
 
-install_packages build run
+install_packages build run help
 build "$preset"
 cd "$root"
 exec ctest --preset "$preset" "$@"

@@ -407,6 +407,8 @@ void HostWindow::fillRecentMenu() {
           [this] { recentCycles_.clear(); });
 }
 
+void HostWindow::showHelp() { editor_->ShowHelp(); }
+
 void HostWindow::showAbout() {
   QMessageBox::about(this, QStringLiteral("About"),
                      QStringLiteral("%1 %2\nA program around the cycle editor component.")

@@ -77,6 +77,7 @@ class HostWindow : public QMainWindow {
   bool save();
   bool saveAs();
   void exportMacroText();
+  void showHelp();
   void showAbout();
 
   // Steps of the commands.

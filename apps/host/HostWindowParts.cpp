@@ -88,6 +88,9 @@ void HostWindow::buildOtherMenus() {
   view->addAction(errors);
 
   QMenu* const help = menuBar()->addMenu(QStringLiteral("&Help"));
+  addCommand(*help, QStringLiteral("Cycle &editor help"), QKeySequence::HelpContents,
+             QStringLiteral("Explain the screen, the values, the messages and the keys of the editor"),
+             &HostWindow::showHelp);
   addCommand(*help, QStringLiteral("&About"), {}, QStringLiteral("Name and version of this program"),
              &HostWindow::showAbout)
       ->setMenuRole(QAction::AboutRole);

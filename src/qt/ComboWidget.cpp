@@ -1,6 +1,7 @@
 #include "qt/ComboWidget.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QScrollBar>
 #include <QStylePainter>
@@ -8,6 +9,7 @@
 #include <algorithm>
 
 #include "qt/FocusRules.h"
+#include "qt/GridKeys.h"
 #include "qt/RowDelegate.h"
 
 namespace mavCycEd::qt {
@@ -16,6 +18,7 @@ ComboWidget::ComboWidget(QWidget* parent) : QComboBox(parent) {
   constexpr int mostVisibleItems = 20;
   setMaxVisibleItems(mostVisibleItems);
   setItemDelegate(new RowDelegate(this));
+  view()->installEventFilter(this);
   // A list with a scroll bar in every style, not a menu as high as the screen.
   setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
 }
@@ -25,6 +28,15 @@ void ComboWidget::showPopup() {
   constexpr int widest = 3;  // in widths of the combo box
   view()->setMinimumWidth(std::min(wanted, widest * width()));
   QComboBox::showPopup();
+}
+
+// The list is a window of its own, where keys end. Whoever asks for the help has done with the list.
+bool ComboWidget::eventFilter(QObject* watched, QEvent* event) {
+  const bool pressed = watched == view() && event->type() == QEvent::KeyPress;
+  if (!pressed || !isHelpKey(static_cast<const QKeyEvent&>(*event))) return QComboBox::eventFilter(watched, event);
+  hidePopup();
+  QCoreApplication::sendEvent(this, event);
+  return true;
 }
 
 void ComboWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }

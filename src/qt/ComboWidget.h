@@ -13,6 +13,7 @@ class ComboWidget : public QComboBox {
   explicit ComboWidget(QWidget* parent);
 
   void showPopup() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  signals:
   /// The keyboard focus went to another control. A list, a menu or another window in front does not count.

@@ -6,6 +6,8 @@
 #include <array>
 #include <utility>
 
+#include "qt/FocusRules.h"
+
 namespace mavCycEd::qt {
 namespace {
 
@@ -52,6 +54,7 @@ void WidgetRelease::operator()(QWidget* widget) const {
 }
 
 void EditorScreen::outliveControl() {
+  help_.close();
   content_.get_deleter().later = true;
   content_->setParent(nullptr);
 }
@@ -125,6 +128,12 @@ void EditorScreen::setTabOrder() {
       lstAtomSequence_.widget(), cmdDelete_.widget(), cmdDefault_.widget(), txtCycleDescription_.widget(),
       lstVariables_.widget(),    cmdIns_.widget(),    cmdDel_.widget()};
   for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+// The page that fits where the keyboard is.
+HelpPage EditorScreen::helpPage() const {
+  if (holdsFocus(*GrdAtom_.view())) return HelpPage::Values;
+  return holdsFocus(*fraVariables_.widget()) ? HelpPage::Variables : HelpPage::Screen;
 }
 
 void EditorScreen::nameForPeople() {

@@ -5,6 +5,7 @@
 
 #include "control/ControlScreen.h"
 #include "qt/CommandGate.h"
+#include "qt/HelpDesk.h"
 #include "qt/QtButton.h"
 #include "qt/QtComboBox.h"
 #include "qt/QtFrame.h"
@@ -39,6 +40,8 @@ class EditorScreen {
   /// What commands pass before they run.
   const CommandGate& gate() const { return gate_; }
 
+  HelpDesk& help() { return help_; }
+
  private:
   void layOut();
   void layOutSelectedMacro();
@@ -47,6 +50,7 @@ class EditorScreen {
   void connectKeys();
   void setTabOrder();
   void nameForPeople();
+  HelpPage helpPage() const;
 
   QWidget& control_;
   std::unique_ptr<QWidget, WidgetRelease> content_;  // all widgets are in it; it goes last
@@ -69,7 +73,9 @@ class EditorScreen {
   QtButton cmdDel_{gate_, "cmdDel", fraVariables_.widget()};
   QtPopupMenu mnuSubParam_{gate_, "mnuParam", content_.get()};
   std::shared_ptr<platform::Timer> tmrUpdateGrid_;
-  QtVariableDialogs variableDialogs_{control_};
+  HelpDesk help_{control_};
+  HelpKey helpKey_{control_, [this] { help_.show(helpPage()); }};
+  QtVariableDialogs variableDialogs_{control_, help_};
 };
 
 }  // namespace mavCycEd::qt

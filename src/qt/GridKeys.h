@@ -15,6 +15,9 @@ inline bool isEnter(const QKeyEvent& key) {
 /// Whether a key asks for the pop-up menu. The menu key does so by itself; not every keyboard has one.
 inline bool isMenuKey(const QKeyEvent& key) { return key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier; }
 
+/// Whether a key asks for the help.
+inline bool isHelpKey(const QKeyEvent& key) { return isPlain(key) && key.key() == Qt::Key_F1; }
+
 /// Whether a key asks for the list of a cell: F4, or Alt with an arrow up or down.
 inline bool isListKey(const QKeyEvent& key) {
   const bool arrow = key.key() == Qt::Key_Down || key.key() == Qt::Key_Up;

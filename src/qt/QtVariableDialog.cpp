@@ -12,7 +12,7 @@ QString inWords(const char* text) { return QCoreApplication::translate("mavCycEd
 
 }  // namespace
 
-QtVariableDialog::QtVariableDialog(QWidget* owner) : frmparams_("frmparams", owner) {
+QtVariableDialog::QtVariableDialog(QWidget* owner, HelpDesk& help) : help_(help), frmparams_("frmparams", owner) {
   gate_.setEndEdit([this] { grdParamStnd_.endEdit(); });
   mnuSyrConstant_.setPlace([this] { return grdParamStnd_.view()->menuPlace(); });
   OKButton_.widget()->setDefault(true);
@@ -20,6 +20,10 @@ QtVariableDialog::QtVariableDialog(QWidget* owner) : frmparams_("frmparams", own
   layOut();
   setTabOrder();
   nameForPeople();
+}
+
+QtVariableDialog::~QtVariableDialog() {
+  if (QWidget* const open = window()) help_.leave(open);
 }
 
 void QtVariableDialog::layOut() {

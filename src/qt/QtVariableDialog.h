@@ -5,6 +5,7 @@
 
 #include "editing/VariableDialogScreen.h"
 #include "qt/CommandGate.h"
+#include "qt/HelpDesk.h"
 #include "qt/QtButton.h"
 #include "qt/QtComboBox.h"
 #include "qt/QtFrame.h"
@@ -18,10 +19,14 @@
 
 namespace mavCycEd::qt {
 
-/// The window of the variable dialog. Enter presses OK, Esc closes.
+/// The window of the variable dialog. Enter presses OK, Esc closes, F1 shows the help over it.
 class QtVariableDialog : public VariableDialogScreen {
  public:
-  explicit QtVariableDialog(QWidget* owner);
+  /// The help outlives the dialog.
+  QtVariableDialog(QWidget* owner, HelpDesk& help);
+  ~QtVariableDialog() override;
+  QtVariableDialog(const QtVariableDialog&) = delete;
+  QtVariableDialog& operator=(const QtVariableDialog&) = delete;
 
   platform::ModalDialog& frmparams() override { return frmparams_; }
   platform::Frame& fraValue() override { return fraValue_; }
@@ -46,7 +51,9 @@ class QtVariableDialog : public VariableDialogScreen {
   void nameForPeople();
 
   CommandGate gate_;
+  HelpDesk& help_;
   QtModalDialog frmparams_;
+  HelpKey helpKey_{*window(), [this] { help_.showOver(window(), HelpPage::Variables); }};
   QtFrame fraValue_{"fraValue", window()};
   QtLineBox txtParamName_{"txtParamName", fraValue_.widget()};
   QtFrame fraParamType_{"fraParamType", window()};
@@ -66,14 +73,15 @@ class QtVariableDialog : public VariableDialogScreen {
 /// Makes variable dialogs over the window of a control.
 class QtVariableDialogs : public VariableDialogFactory {
  public:
-  explicit QtVariableDialogs(QWidget& control) : control_(control) {}
+  QtVariableDialogs(QWidget& control, HelpDesk& help) : control_(control), help_(help) {}
 
   std::unique_ptr<VariableDialogScreen> createVariableDialog() override {
-    return std::make_unique<QtVariableDialog>(&control_);
+    return std::make_unique<QtVariableDialog>(&control_, help_);
   }
 
  private:
   QWidget& control_;
+  HelpDesk& help_;
 };
 
 }  // namespace mavCycEd::qt

@@ -59,6 +59,7 @@ class ctlCycEd::Implementation {
   Implementation& operator=(const Implementation&) = delete;
 
   EditorControl& editor() { return editor_; }
+  qt::HelpDesk& help() { return surroundings_->screen.help(); }
 
   /// Finishes a value that is being typed, before a call of the host's that changes what is shown or takes the cycle.
   /// What the end of the edit leads to may destroy the control: false then.
@@ -116,6 +117,8 @@ bool ctlCycEd::ParamValueControl(QString& message) {
   message = qt::toQt(text);
   return valid;
 }
+
+void ctlCycEd::ShowHelp() { implementation_->help().show(qt::HelpPage::Contents); }
 
 EditorControl& editorOf(ctlCycEd& control) { return control.implementation_->editor(); }
 

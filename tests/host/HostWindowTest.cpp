@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTableWidget>
+#include <QTextBrowser>
+#include <QWindow>
 
 #include "TestHostWindow.h"
 
@@ -246,6 +248,27 @@ TEST_F(HostWindowTest, RecentCyclesAreOffered) {
   EXPECT_TRUE(told.said().contains(QStringLiteral("There is no such file."))) << told.said().toStdString();
   emit menu.menu()->aboutToShow();
   EXPECT_THROW(command("c.xml"), std::runtime_error);
+}
+
+TEST_F(HostWindowTest, HelpIsInTheMenuAndOnItsKeyEverywhere) {
+  auto* const help = &command("Cycle editor help");
+  EXPECT_EQ(help->shortcut(), QKeySequence(Qt::Key_F1));
+  const auto page = [this] {
+    auto* const browser = window_.findChild<QTextBrowser*>();
+    return browser != nullptr && browser->isVisible() ? browser->source().fileName() : QString();
+  };
+  help->trigger();
+  EXPECT_EQ(page(), QStringLiteral("index.html")) << "also without an instrument";
+  EXPECT_TRUE(window_.findChild<QTextBrowser*>()->isEnabled());
+
+  openInstrument();
+  window_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return window_.isActiveWindow(); }));
+  the<QComboBox>("cboAtom").setFocus();
+  QTest::keyClick(window_.windowHandle(), Qt::Key_F1);
+  EXPECT_EQ(page(), QStringLiteral("screen.html")) << "inside, the key is the editor's";
+  EXPECT_TRUE(closes(QMessageBox::NoButton));
+  EXPECT_EQ(page(), QString()) << "it is closed with the window";
 }
 
 }  // namespace

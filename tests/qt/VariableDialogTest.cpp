@@ -51,7 +51,8 @@ class VariableDialog : public testing::Test {
   }
 
   QWidget owner;
-  qt::QtVariableDialog dialog{&owner};
+  qt::HelpDesk help{owner};
+  qt::QtVariableDialog dialog{&owner, help};
   std::vector<std::string> log;
 };
 
@@ -149,7 +150,7 @@ TEST_F(VariableDialog, FramesHaveTheirOwnSettings) {
 
 TEST_F(VariableDialog, TakesItsWidgetsAlong) {
   {
-    qt::QtVariableDialog second(&owner);
+    qt::QtVariableDialog second(&owner, help);
     EXPECT_EQ(owner.findChildren<QDialog*>().size(), 2);
   }
   EXPECT_EQ(owner.findChildren<QDialog*>().size(), 1);

@@ -89,6 +89,10 @@ class ctlCycEd : public QWidget {
   /// it stays as it is. Ranges and steps are not looked at here: the control checks them itself while the user works.
   bool ParamValueControl(QString& message);
 
+  /// Shows the contents of the operator's help, in a window that goes with the control. F1 shows the page that fits
+  /// while the focus is in the control or its dialog; everywhere else F1 is the host's.
+  void ShowHelp();
+
  signals:
   /// A procedure of the control has failed.
   /// lngError: the error's number; mavCycEdErrorInvalidXML, or a usual run-time error number.
