@@ -18,7 +18,8 @@
 
 namespace mavCycEd::qt {
 
-/// The window of the variable dialog. Enter presses OK, Esc closes.
+/// The window of the variable dialog. Enter presses OK, once the value that is being typed has been entered; Esc
+/// closes.
 class QtVariableDialog : public VariableDialogScreen {
  public:
   explicit QtVariableDialog(QWidget* owner);
