@@ -18,6 +18,18 @@ std::string_view unitOf(std::string_view firstField) {
   return firstField.substr(open + 1, close - open - 1);
 }
 
+// The first field without its unit part. What stands behind the unit belongs to the name that is offered for values;
+// where it could be taken for a unit in its turn, it goes.
+std::string withoutUnit(std::string_view firstField) {
+  std::string name(before(firstField, '('));
+  const std::size_t close = firstField.find(')', name.size());
+  if (close != std::string_view::npos) {
+    const std::string_view behind = firstField.substr(close + 1);
+    if (behind.find_first_of("()") == std::string_view::npos) name += behind;
+  }
+  return std::string(text::trimSpaces(name));
+}
+
 }  // namespace
 
 std::string variableName(std::string_view definition) {
@@ -30,7 +42,7 @@ std::string objectName(std::string_view definition) { return std::string(before(
 NumberDefinition parseNumber(std::string_view definition) {
   constexpr std::size_t fieldCount = 4;
   NumberDefinition number;
-  number.name = variableName(definition);
+  number.name = withoutUnit(before(definition, ';'));
   number.unit = unitOf(before(definition, ';'));
   const auto fields = text::split(definition, ';');
   if (fields.size() >= fieldCount) {

@@ -13,7 +13,7 @@ namespace mavCycEd {
 
 /// What a definition says of a number.
 struct NumberDefinition {
-  std::string name;
+  std::string name;  ///< the first field without its unit part
   std::string unit;  ///< "None" when the parentheses are empty or missing
   std::string defaultValue;
   std::string lower;

@@ -105,6 +105,7 @@ void frmparams::Form_Load() {
 }
 
 void frmparams::lockName() {
+  if (screen_.optNrValue().value()) screen_.txtParamName().setText(variableName(exchange_.editedText));
   screen_.txtParamName().setEnabled(false);
   screen_.fraParamType().setEnabled(false);
 }
@@ -167,13 +168,17 @@ void frmparams::optObjValue_Click() {
 }
 
 void frmparams::txtParamName_Change() {
-  guarded(errors_, "txtParamName_Change", [this] {
-    std::string name = screen_.txtParamName().text();
-    if (text::filterName(name)) return;
-    showWarningIllegalCharater2();
-    screen_.txtParamName().setText(name);
-    screen_.txtParamName().focusAndSelectAll();
-  });
+  guarded(errors_, "txtParamName_Change", [this] { nameStands(); });
+}
+
+// Whether the name holds no illegal character; if it did, the user has been told, and the rest of it is in the box.
+bool frmparams::nameStands() {
+  std::string name = screen_.txtParamName().text();
+  if (text::filterName(name)) return true;
+  showWarningIllegalCharater2();
+  screen_.txtParamName().setText(name);
+  screen_.txtParamName().focusAndSelectAll();
+  return false;
 }
 
 void frmparams::OKButton_Click() {
@@ -184,9 +189,11 @@ void frmparams::OKButton_Click() {
       screen_.txtParamName().focusAndSelectAll();
       return;
     }
+    // A name may have come with the cycle as it is; that of a variable in use stays so.
+    if (screen_.txtParamName().isEnabled() && !nameStands()) return;
     if (!ValidatedParamsValues() || !isDefaultWithinLimits()) return;
     exchange_.resultText.clear();
-    if (screen_.optNrValue().value() && !areSettingsComplete()) return;
+    if (screen_.optNrValue().value() && !(areSettingsComplete() && unitStands())) return;
     exchange_.resultText = definition();
     exchange_.editMode = false;
     screen_.frmparams().close();
@@ -227,6 +234,18 @@ bool frmparams::ValidatedParamsValues() {
     }
     return valid;
   });
+}
+
+// The same for the unit, which a user may type. What the catalogue offers is the instrument maker's.
+bool frmparams::unitStands() {
+  const std::string typed = screen_.cboUnit().text();
+  if (itemInComboExists(screen_.cboUnit(), typed)) return true;
+  std::string unit = text::withoutCharacters(typed, U")");  // the definition's unit ends with it
+  text::filterValue(unit);
+  if (unit == typed) return true;
+  tell(std::string("The unit cannot contain any of the following characters:").append(crLf).append("\"'&<>;,)\""));
+  screen_.cboUnit().setText(unit);
+  return false;
 }
 
 bool frmparams::isDefaultWithinLimits() {

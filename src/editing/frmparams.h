@@ -26,7 +26,7 @@ class frmparams {
 
   /// Prepares the dialog for a new variable, or for the one being edited.
   void Form_Load();
-  /// Disables the name box and the choice of the type: the variable is in use.
+  /// Disables the name box and the choice of the type: the variable is in use. The box shows the name that is in use.
   void lockName();
   /// Shows the dialog and returns when it has closed.
   void show() { screen_.frmparams().showModal(); }
@@ -47,6 +47,8 @@ class frmparams {
   void optObjValue_Click();
   void showHalf(bool numeric);
 
+  bool nameStands();
+  bool unitStands();
   bool ValidatedParamsValues();
   bool isDefaultWithinLimits();
   bool areSettingsComplete();

@@ -6,6 +6,7 @@
 
 #include "memory/Notify.h"
 #include "platform/RunTimeError.h"
+#include "text/LineEnds.h"
 
 namespace mavCycEd::memory {
 
@@ -27,11 +28,13 @@ void MemoryComboBox::setIndex(int index) {
 }
 
 void MemoryComboBox::setText(std::string_view text) {
-  type(text);
+  show(text);
   notify(events_.Click);
 }
 
-void MemoryComboBox::type(std::string_view text) {
+void MemoryComboBox::type(std::string_view text) { show(text::onOneLine(text)); }
+
+void MemoryComboBox::show(std::string_view text) {
   const auto found = std::ranges::find(items_, text);
   index_ = found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
   text_ = text;

@@ -32,6 +32,8 @@ class MemoryComboBox : public platform::ComboBox, public Control {
   const std::vector<std::string>& items() const { return items_; }
 
  private:
+  void show(std::string_view text);
+
   platform::ComboBoxEvents events_;
   std::vector<std::string> items_;
   int index_ = -1;

@@ -14,24 +14,30 @@ namespace mavCycEd::memory {
 /// A text box without a screen.
 class MemoryTextBox : public platform::TextBox, public Control {
  public:
-  using Control::Control;
+  enum class Lines { Several, One };
+
+  explicit MemoryTextBox(const MemoryFrame* container, Lines lines = Lines::Several)
+      : Control(container), lines_(lines) {}
 
   void setEvents(platform::TextBoxEvents events) override { events_ = std::move(events); }
   std::string text() const override { return text_; }
-  void setText(std::string_view text) override { text_ = text::toCrLf(text); }
+  void setText(std::string_view text) override { text_ = hasOneLine() ? std::string(text) : text::toCrLf(text); }
   bool isEnabled() const override { return isSelfEnabled(); }
   void setEnabled(bool enabled) override { setSelfEnabled(enabled); }
   void focusAndSelectAll() override {}
 
   /// The user replaces the whole text in one change, as a paste does. Nothing over nothing is no change.
   void replace(std::string_view text) {
-    std::string replacement = text::toCrLf(text);
+    std::string replacement = hasOneLine() ? text::onOneLine(text) : text::toCrLf(text);
     if (replacement.empty() && text_.empty()) return;
     text_ = std::move(replacement);
     notify(events_.Change);
   }
 
  private:
+  bool hasOneLine() const { return lines_ == Lines::One; }
+
+  Lines lines_;
   platform::TextBoxEvents events_;
   std::string text_;
 };

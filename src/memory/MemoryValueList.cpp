@@ -3,6 +3,7 @@
 #include <cstddef>
 
 #include "memory/Notify.h"
+#include "text/LineEnds.h"
 #include "text/Utf8.h"
 
 namespace mavCycEd::memory {
@@ -54,7 +55,9 @@ void MemoryValueList::changeEditText(const std::string& text) {
   notify(events_.SetEditText, valueColumn, editedRow_, text);
 }
 
-void MemoryValueList::type(int row, std::string_view text) {
+void MemoryValueList::type(int row, std::string_view typed) {
+  const std::string line = text::onOneLine(typed);
+  std::string_view text = line;
   makeCurrent(row);
   editedRow_ = row;
   if (text.empty() && !rows_.cell(valueColumn, row).empty()) changeEditText({});

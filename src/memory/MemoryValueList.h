@@ -40,7 +40,7 @@ class MemoryValueList : public platform::ValueListActiveX, public Control {
   void makeCurrent(int row);
   /// The user replaces a row's value by typing, a character at a time, and ends the edit. An empty text clears the
   /// cell.
-  void type(int row, std::string_view text);
+  void type(int row, std::string_view typed);
   /// The user picks an item of a row's list.
   void pick(int row, std::string_view item);
   void pressMouse(platform::MouseButton button, int x, int y);

@@ -32,7 +32,7 @@ class MemoryLabel : public platform::Label {
 struct MemoryVariableDialogControls {
   MemoryModalDialog frmparams;
   MemoryFrame fraValue{nullptr};
-  MemoryTextBox txtParamName{&fraValue};
+  MemoryTextBox txtParamName{&fraValue, MemoryTextBox::Lines::One};
   MemoryFrame fraParamType{nullptr};
   MemoryOptionButton optNrValue{&fraParamType};
   MemoryOptionButton optObjValue{&fraParamType};

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "paramgrid/ObjectTests.h"
+#include "text/CaseFold.h"
 #include "text/Strings.h"
 
 namespace mavCycEd {
@@ -52,6 +53,19 @@ bool removeName(std::string& list, std::string_view name) {
   return true;
 }
 
+bool holdsName(std::string_view list, std::string_view name) {
+  const auto pieces = text::split(list, ';');
+  return std::ranges::find(pieces, name) != pieces.end();
+}
+
+// Whether a value is the name of a variable that has just been withdrawn. Letters of the other case refer to the
+// variable as well, unless they are what the row offers otherwise.
+bool isWithdrawn(std::string_view value, std::string_view name, const ParamRowInfo& info) {
+  if (value == name) return true;
+  const bool offered = holdsName(info.ExtraValues, value) || holdsName(info.Items, value);
+  return !offered && text::equalsIgnoringCase(text::trimSpaces(value), name);
+}
+
 bool hasPickList(const ParamRowInfo& info, std::string_view unit) { return info.IsNumeric == 0 || ItIsObject(unit); }
 
 }  // namespace
@@ -93,7 +107,7 @@ void ExtraValues::Delete_Extra_Udons(std::string_view variable) {
         removeName(info.Items, deleted->name);
         grdAtom_.setPickList(row, info.Items);
       }
-      if (grdAtom_.cellText(1, row) == deleted->name) grdAtom_.setValue(1, row, textOf(info.Value));
+      if (isWithdrawn(grdAtom_.cellText(1, row), deleted->name, info)) grdAtom_.setValue(1, row, textOf(info.Value));
     });
   });
 }

@@ -15,7 +15,8 @@ struct ComboBoxEvents {
   std::function<void()> LostFocus;
 };
 
-/// A text with a list of items to pick it from. Items are numbered from 0; -1 stands for "no item".
+/// A text with a list of items to pick it from. Items are numbered from 0; -1 stands for "no item". Where a user may
+/// type the text, line ends in it become blanks (text::onOneLine).
 class ComboBox {
  public:
   virtual ~ComboBox() = default;

@@ -12,8 +12,11 @@ struct TextBoxEvents {
   std::function<void()> Change;
 };
 
-/// A text that the user can edit. Line ends are carriage return plus line feed, whatever line ends were set or typed
-/// (text::toCrLf says which characters count as one).
+/// A text that the user can edit.
+///
+/// In a box of several lines, line ends are carriage return plus line feed, whatever line ends were set or typed
+/// (text::toCrLf says which characters count as one). A box of one line keeps what is set as it is; in what the user
+/// types or pastes, line ends become blanks (text::onOneLine).
 class TextBox {
  public:
   virtual ~TextBox() = default;

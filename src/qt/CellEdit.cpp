@@ -4,12 +4,13 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <algorithm>
+#include <initializer_list>
 #include <optional>
 
 #include "qt/CellEditors.h"
 #include "qt/FocusRules.h"
 #include "qt/GridKeys.h"
+#include "qt/LineEdits.h"
 #include "qt/Text.h"
 #include "qt/ValueListModel.h"
 #include "qt/ValueListView.h"
@@ -34,16 +35,6 @@ std::optional<CellEdit::Step> stepOf(const QKeyEvent& key) {
   }
 }
 
-// A value is one line: what a paste brings along of line ends and tabs becomes blanks.
-QString onOneLine(QString text) {
-  const auto breaksLine = [](QChar character) {
-    return character == QChar::ParagraphSeparator || character == QChar::LineSeparator ||
-           (character.category() == QChar::Other_Control);
-  };
-  std::ranges::replace_if(text, breaksLine, QChar(QChar::Space));
-  return text;
-}
-
 }  // namespace
 
 CellEdit::CellEdit(ValueListModel& model, ValueListView& view) : QObject(&view), model_(model), view_(view) {
@@ -65,7 +56,7 @@ void CellEdit::open(int row) {
   editor_ = view_.indexWidget(index_);
   if (!editor_) return;
   QLineEdit& line = lineOf(*editor_);
-  for (QWidget* const part : {editor_.data(), static_cast<QWidget*>(&line)}) {
+  for (QWidget* const part : std::initializer_list<QWidget*>{editor_, &line}) {
     part->setMouseTracking(true);
     part->installEventFilter(this);
   }
@@ -87,17 +78,16 @@ void CellEdit::forward(QEvent& event) {
 }
 
 void CellEdit::replaceText(std::string_view text) {
-  if (isOpen()) lineOf(*editor_).setText(toQt(text));
+  if (isOpen()) writeBehindTyping(lineOf(*editor_), toQt(text));
 }
 
-void CellEdit::onTyped(const QString& text) {
+void CellEdit::onTyped() {
   if (!isOpen()) return;
   touched_ = true;
   const QPointer<CellEdit> self(this);
   view_.chooseRow(row());
   if (!self || !isOpen()) return;
-  const QString line = onOneLine(text);
-  if (line != text) lineOf(*editor_).setText(line);
+  const QString line = keepOnOneLine(lineOf(*editor_));
   const int typedRow = row();
   model_.setCell(ValueListModel::valueColumn, typedRow, fromQt(line));
   emit typed(typedRow);
@@ -116,7 +106,7 @@ void CellEdit::onPicked(int item) {
   model_.setCell(ValueListModel::valueColumn, pickedRow, value);
   emit picked(pickedRow);
   // The user is still in this cell, unless the answer to the pick led elsewhere.
-  if (self && view_.hasFocus() && model_.rows().currentRow() == pickedRow) view_.editCurrentRow();
+  if (self && view_.hasFocus() && model_.rows().currentRow() == pickedRow) view_.openEditor();
 }
 
 void CellEdit::end() {
@@ -171,12 +161,11 @@ void CellEdit::leave(Step step) {
 }
 
 bool CellEdit::eventFilter(QObject* watched, QEvent* event) {
-  // The editor covers its cell: where the pointer is over it, the grid hears of it all the same.
-  if (event->type() == QEvent::MouseMove && isOpen()) {
-    const QPoint place = static_cast<const QMouseEvent&>(*event).position().toPoint();
-    const QPointer<QObject> gone(watched);
-    view_.pointAt(static_cast<QWidget*>(watched)->mapTo(view_.viewport(), place));
-    return gone.isNull();
+  switch (event->type()) {
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: return onMouse(static_cast<QWidget&>(*watched), *event);
+    default: break;
   }
   if (watched != editor_) return QObject::eventFilter(watched, event);
   switch (event->type()) {
@@ -198,6 +187,24 @@ bool CellEdit::eventFilter(QObject* watched, QEvent* event) {
     }
     default: return false;
   }
+}
+
+// The grid hears of the mouse over the editor, which stands where the cell is. True when the editor has nothing more to
+// do with it.
+bool CellEdit::onMouse(QWidget& over, QEvent& event) {
+  if (!isOpen()) return false;
+  const auto& mouse = static_cast<const QMouseEvent&>(event);
+  const QPoint place = over.mapTo(view_.viewport(), mouse.position().toPoint());
+  const QPointer<CellEdit> self(this);
+  const QPointer<QWidget> editor(editor_);
+  if (event.type() == QEvent::MouseMove) {
+    const bool passedOn = &over != &lineOf(*editor);  // by a combo box, to the grid under it
+    view_.tellMove(place);
+    return passedOn || editor.isNull();
+  }
+  view_.chooseRow(row());
+  if (self) view_.tellPress(mouse.button(), place);
+  return !self || editor.isNull() || editor_ != editor;
 }
 
 bool CellEdit::isOurs(const QKeyEvent& key) const {

@@ -34,7 +34,8 @@ class CellEdit : public QObject {
   /// Hands an event to the open editor: the key that began the edit.
   void forward(QEvent& event);
 
-  /// The row being edited shows this text from now on, the cursor behind it; the edit goes on.
+  /// The row being edited shows this text from now on; the edit goes on, where some of the typed characters had to go
+  /// at the place where they were typed, otherwise behind the text.
   void replaceText(std::string_view text);
 
   /// Ends the edit; what was typed stays. Only an edit in which something was typed tells of its end.
@@ -57,9 +58,10 @@ class CellEdit : public QObject {
 
  private:
   bool onKeyPress(const QKeyEvent& key);
+  bool onMouse(QWidget& over, QEvent& event);
   bool isOurs(const QKeyEvent& key) const;
   bool hasList() const;
-  void onTyped(const QString& text);
+  void onTyped();
   void onPicked(int item);
   void giveUp();
   void leave(Step step);

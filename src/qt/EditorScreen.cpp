@@ -35,8 +35,7 @@ EditorScreen::EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gr
   mnuSubParam_.setPlace([this] { return GrdAtom_.view()->menuPlace(); });
   if (!tmrUpdateGrid_) {
     auto timer = std::make_shared<QtTimer>("tmrUpdateGrid");
-    // The first row is not for an operator who is at work in another one already.
-    timer->setHold([this] { return GrdAtom_.isEditing(); });
+    giveWayToOperator(*timer);
     tmrUpdateGrid_ = std::move(timer);
   }
   layOut();
@@ -110,6 +109,17 @@ void EditorScreen::layOutSelectedMacro() {
   column->addWidget(cboAtom_.widget());
   column->addWidget(GrdAtom_.widget());
   column->addLayout(buttons);
+}
+
+// The timer makes the first row current for an operator who has not come to the grid yet. The row that they have begun
+// to work in stays theirs; the editor hears of it where the timer would have told which row is current.
+void EditorScreen::giveWayToOperator(QtTimer& timer) {
+  ValueListView* const grid = GrdAtom_.view();
+  QObject::connect(grid, &ValueListView::rowChosen, &timer, [&timer] { timer.setEnabled(false); });
+  QObject::connect(grid, &ValueListView::rowKept, &timer, [grid, &timer] {
+    if (timer.isEnabled()) emit grid->rowChosen();
+  });
+  timer.setDrop([this] { return GrdAtom_.isEditing(); });
 }
 
 // What the mouse does by clicks and double clicks has its keys, each good only in its own list.

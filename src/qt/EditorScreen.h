@@ -27,8 +27,8 @@ struct WidgetRelease {
 /// The screen of the editor: its child controls, and where they stand in the control's widget.
 class EditorScreen {
  public:
-  /// Fills `control` with widgets, which the screen owns. Without a grid timer the screen has its own, which waits
-  /// while a value is being edited.
+  /// Fills `control` with widgets, which the screen owns. Without a grid timer the screen has its own, which gives way
+  /// to an operator who works in the grid already.
   EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer);
 
   /// The control goes while one of its procedures is still running: the widgets leave it, and stay until the event
@@ -47,6 +47,7 @@ class EditorScreen {
   void layOutSelectedMacro();
   void layOutAtoms();
   void layOutVariables();
+  void giveWayToOperator(QtTimer& timer);
   void connectKeys();
   void setTabOrder();
   void nameForPeople();

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QPointer>
 
+#include "qt/LineEdits.h"
 #include "qt/Notify.h"
 #include "qt/Text.h"
 
@@ -65,8 +66,8 @@ void QtComboBox::onPicked() {
   if (self) tell(events_.Click);
 }
 
-void QtComboBox::onTyped(const QString& text) {
-  text_ = fromQt(text);
+void QtComboBox::onTyped() {
+  text_ = fromQt(keepOnOneLine(*combo_->lineEdit()));
   index_ = model_->indexOf(text_);
 }
 

@@ -36,7 +36,7 @@ class QtComboBox : public QObject, public platform::ComboBox {
  private:
   void show(int index, std::string text);
   void onPicked();
-  void onTyped(const QString& text);
+  void onTyped();
 
   const CommandGate& gate_;
   TextListModel* model_;

@@ -1,8 +1,8 @@
 #include "qt/QtLineBox.h"
 
+#include "qt/LineEdits.h"
 #include "qt/Notify.h"
 #include "qt/Text.h"
-#include "text/LineEnds.h"
 
 namespace mavCycEd::qt {
 
@@ -12,7 +12,7 @@ QtLineBox::QtLineBox(const char* name, QWidget* parent) : edit_(new QLineEdit(pa
 }
 
 void QtLineBox::setText(std::string_view text) {
-  text_ = text::toCrLf(text);
+  text_ = text;
   edit_->setText(toQt(text_));
 }
 
@@ -21,8 +21,8 @@ void QtLineBox::focusAndSelectAll() {
   edit_->selectAll();
 }
 
-void QtLineBox::onTextEdited(const QString& text) {
-  text_ = text::toCrLf(fromQt(text));
+void QtLineBox::onTextEdited() {
+  text_ = fromQt(keepOnOneLine(*edit_));
   tell(events_.Change);
 }
 

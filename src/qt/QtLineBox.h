@@ -25,7 +25,7 @@ class QtLineBox : public QObject, public platform::TextBox {
   void focusAndSelectAll() override;
 
  private:
-  void onTextEdited(const QString& text);
+  void onTextEdited();
 
   QLineEdit* edit_;
   platform::TextBoxEvents events_;

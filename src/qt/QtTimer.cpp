@@ -29,8 +29,11 @@ void QtTimer::restart() {
 }
 
 void QtTimer::onTimeout() {
-  if (hold_ && hold_()) return;
-  tell(events_.Tick);
+  if (drop_ && drop_()) {
+    setEnabled(false);
+  } else {
+    tell(events_.Tick);
+  }
 }
 
 }  // namespace mavCycEd::qt

@@ -9,15 +9,15 @@
 
 namespace mavCycEd::qt {
 
-/// A timer. A tick can be held back: the interval then starts anew.
+/// A timer. A tick that has lost its purpose can be dropped.
 class QtTimer : public QObject, public platform::Timer {
   Q_OBJECT
 
  public:
   explicit QtTimer(const char* name);
 
-  /// While `hold` is true no tick is told.
-  void setHold(std::function<bool()> hold) { hold_ = std::move(hold); }
+  /// A tick that falls while `drop` is true is not told, and the timer is off from then on.
+  void setDrop(std::function<bool()> drop) { drop_ = std::move(drop); }
 
   void setEvents(platform::TimerEvents events) override { events_ = std::move(events); }
   int interval() const override { return interval_; }
@@ -30,7 +30,7 @@ class QtTimer : public QObject, public platform::Timer {
   void onTimeout();
 
   QTimer timer_;
-  std::function<bool()> hold_;
+  std::function<bool()> drop_;
   platform::TimerEvents events_;
   int interval_ = 0;
   bool enabled_ = false;

@@ -50,7 +50,7 @@ void QtValueList::focusValue(int row) {
   if (!model_->rows().isParameterRow(row)) return;
   view_->cellEdit().drop();
   setRow(row);
-  view_->editCurrentRow();
+  view_->openEditor();
 }
 
 void QtValueList::InsertRow(std::string_view key, std::string_view value, bool append) {

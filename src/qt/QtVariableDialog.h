@@ -19,7 +19,8 @@
 
 namespace mavCycEd::qt {
 
-/// The window of the variable dialog. Enter presses OK, Esc closes, F1 shows the help over it.
+/// The window of the variable dialog. Enter presses OK, once the value that is being typed has been entered; Esc
+/// closes, F1 shows the help over it.
 class QtVariableDialog : public VariableDialogScreen {
  public:
   /// The help outlives the dialog.

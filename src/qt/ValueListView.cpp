@@ -21,8 +21,8 @@ namespace {
 
 constexpr int lowestRow = 19;
 
-platform::MouseButton buttonOf(const QMouseEvent& event) {
-  switch (event.button()) {
+platform::MouseButton named(Qt::MouseButton button) {
+  switch (button) {
     case Qt::RightButton: return platform::MouseButton::Secondary;
     case Qt::MiddleButton: return platform::MouseButton::Middle;
     default: return platform::MouseButton::Primary;
@@ -144,13 +144,27 @@ void ValueListView::markCurrentRow() {
 }
 
 void ValueListView::chooseRow(int row) {
-  if (!model_.rows().isParameterRow(row) || row == model_.rows().currentRow()) return;
+  if (!model_.rows().isParameterRow(row)) return;
+  if (row != model_.rows().currentRow()) {
+    makeCurrent(row);
+  } else {
+    emit rowKept();
+  }
+}
+
+void ValueListView::makeCurrent(int row) {
   model_.setCurrentRow(row);
   showCurrentRow();
   emit rowChosen();
 }
 
 void ValueListView::editCurrentRow() {
+  const QPointer<ValueListView> self(this);
+  chooseRow(model_.rows().currentRow());
+  if (self) openEditor();
+}
+
+void ValueListView::openEditor() {
   const int row = model_.rows().currentRow();
   if (row == 0) {
     setFocus();
@@ -200,7 +214,7 @@ bool ValueListView::opensEditor(const QKeyEvent& key) const {
 void ValueListView::keyPressEvent(QKeyEvent* event) {
   event->accept();
   if (isMenuKey(*event)) {
-    askForMenuOfCurrentRow();
+    askForMenuByKey();
   } else if (cellEdit_->isOpen()) {  // what the editor does not want is not for the rows either
     event->ignore();
   } else if (event->matches(QKeySequence::Copy)) {
@@ -277,8 +291,7 @@ void ValueListView::mousePressEvent(QMouseEvent* event) {
   const QModelIndex pressed = indexAt(place);
   if (pressed.isValid()) chooseRow(ValueListModel::rowOf(pressed));
   if (!self) return;
-  const QPoint units = units_.ofCells(place);
-  emit mousePressed(buttonOf(*event), units.x(), units.y());
+  tellPress(event->button(), place);
   if (!self || event->button() != Qt::LeftButton) return;
   // What was told may have changed the rows.
   const QModelIndex value = indexAt(place);
@@ -290,12 +303,17 @@ void ValueListView::mousePressEvent(QMouseEvent* event) {
 
 void ValueListView::mouseMoveEvent(QMouseEvent* event) {
   event->accept();
-  pointAt(event->position().toPoint());
+  tellMove(event->position().toPoint());
 }
 
-void ValueListView::pointAt(const QPoint& place) {
+void ValueListView::tellMove(const QPoint& place) {
   const QPoint units = units_.ofCells(place);
   emit mouseMoved(units.x(), units.y());
+}
+
+void ValueListView::tellPress(Qt::MouseButton button, const QPoint& place) {
+  const QPoint units = units_.ofCells(place);
+  emit mousePressed(named(button), units.x(), units.y());
 }
 
 void ValueListView::mouseReleaseEvent(QMouseEvent* event) {
@@ -308,33 +326,34 @@ void ValueListView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(
 void ValueListView::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
   if (event->reason() != QContextMenuEvent::Mouse) {
-    askForMenuOfCurrentRow();
+    askForMenuByKey();
     return;
   }
   const QPointer<ValueListView> self(this);
   cellEdit_->end();
   if (!self) return;
   const QModelIndex index = indexAt(event->pos());
-  askForMenu(index.isValid() ? ValueListModel::rowOf(index) : 0, units_.ofCells(event->pos()), event->globalPos());
+  chooseRow(index.isValid() ? ValueListModel::rowOf(index) : model_.rows().currentRow());
+  if (self) askForMenu(units_.ofCells(event->pos()), event->globalPos());
 }
 
-void ValueListView::askForMenuOfCurrentRow() {
+// No press comes before such a request that would tell of the row: it is told in any case.
+void ValueListView::askForMenuByKey() {
   const QPointer<ValueListView> self(this);
+  const int edited = cellEdit_->row();
   cellEdit_->end();
   if (!self) return;
-  const int row = model_.rows().currentRow();
-  if (row == 0) return;
-  const QModelIndex value = model_.cellIndex(ValueListModel::valueColumn, row);
-  scrollTo(value);
-  const QPoint middle = visualRect(value).center();
-  askForMenu(row, units_.ofCells(middle), viewport()->mapToGlobal(middle));
+  const int row = edited != 0 ? edited : model_.rows().currentRow();
+  if (!model_.rows().isParameterRow(row)) return;
+  makeCurrent(row);
+  if (!self) return;
+  const QPoint middle = visualRect(model_.cellIndex(ValueListModel::valueColumn, row)).center();
+  askForMenu(units_.ofCells(middle), viewport()->mapToGlobal(middle));
 }
 
-void ValueListView::askForMenu(int row, const QPoint& units, const QPoint& place) {
+void ValueListView::askForMenu(const QPoint& units, const QPoint& place) {
   menuPlace_ = place;
-  const QPointer<ValueListView> self(this);
-  chooseRow(row);
-  if (self) emit menuAskedFor(units.x(), units.y());
+  emit menuAskedFor(units.x(), units.y());
 }
 
 bool ValueListView::eventFilter(QObject* watched, QEvent* event) {
@@ -349,7 +368,7 @@ void ValueListView::onTitleEvent(const QEvent& event) {
     case QEvent::MouseButtonPress: {
       const auto& press = static_cast<const QMouseEvent&>(event);
       const QPoint units = units_.ofTitles(press.position().toPoint());
-      emit mousePressed(buttonOf(press), units.x(), units.y());
+      emit mousePressed(named(press.button()), units.x(), units.y());
       break;
     }
     case QEvent::MouseMove: {
@@ -359,7 +378,9 @@ void ValueListView::onTitleEvent(const QEvent& event) {
     }
     case QEvent::ContextMenu: {
       const auto& request = static_cast<const QContextMenuEvent&>(event);
-      askForMenu(0, units_.ofTitles(request.pos()), request.globalPos());
+      const QPointer<ValueListView> self(this);
+      chooseRow(model_.rows().currentRow());
+      if (self) askForMenu(units_.ofTitles(request.pos()), request.globalPos());
       break;
     }
     default: break;

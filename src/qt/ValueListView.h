@@ -43,17 +43,20 @@ class ValueListView : public QTableView {
   /// Selects the current row of the rows, and brings it into view.
   void markCurrentRow();
   void showCurrentRow();
-  /// The user makes a parameter row current; told when it was not.
+  /// The user makes a parameter row current, or works on in the one that is current.
   void chooseRow(int row);
   /// Whether Enter opens the editor of the current row's value, as F2 does; it does unless the window has another use
   /// for the key.
   void setEnterOpens(bool opens) { enterOpens_ = opens; }
-  /// Opens the editor of the current row's value, if there is a row.
+  /// The user opens the editor of the current row's value, if there is a row.
   void editCurrentRow();
-  /// The pointer is at this place of the viewport; what covers the cells there says so.
-  void pointAt(const QPoint& place);
+  /// Opens the editor of the current row's value without a word of the row.
+  void openEditor();
   /// Closes the editor of an edit; the focus stays in the grid if it was in the editor.
   void removeEditor(QWidget* editor) { closeEditor(editor, QAbstractItemDelegate::NoHint); }
+  /// Tells what the mouse does over the cells, or over an editor on them; `place` is in the viewport.
+  void tellMove(const QPoint& place);
+  void tellPress(Qt::MouseButton button, const QPoint& place);
   /// Where the pop-up menu was last asked for, in global coordinates.
   QPoint menuPlace() const { return menuPlace_; }
 
@@ -61,7 +64,10 @@ class ValueListView : public QTableView {
   QSize minimumSizeHint() const override;
 
  signals:
+  /// The user made another row current, or asked for the menu of the current one by the keyboard.
   void rowChosen();
+  /// The user goes on to work in the row that was current already.
+  void rowKept();
   void mousePressed(mavCycEd::platform::MouseButton button, int x, int y);
   void mouseMoved(int x, int y);
   void menuAskedFor(int x, int y);
@@ -91,8 +97,9 @@ class ValueListView : public QTableView {
   bool moveBy(int key);
   void goOn(int row, CellEdit::Step step);
   void onTitleEvent(const QEvent& event);
-  void askForMenu(int row, const QPoint& units, const QPoint& place);
-  void askForMenuOfCurrentRow();
+  void makeCurrent(int row);
+  void askForMenu(const QPoint& units, const QPoint& place);
+  void askForMenuByKey();
   int pageRows() const;
 
   ValueListModel& model_;

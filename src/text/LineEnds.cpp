@@ -19,6 +19,8 @@ bool isLineEnd(char32_t character) {
   }
 }
 
+bool isControl(char32_t character) { return character < 0x20 || (character >= 0x7F && character < 0xA0); }
+
 }  // namespace
 
 std::string toCrLf(std::string_view text) {
@@ -29,6 +31,22 @@ std::string toCrLf(std::string_view text) {
     if (isLineEnd(firstCharacter(text))) {
       if (text.starts_with(crLf)) size = crLf.size();
       result += crLf;
+    } else {
+      result += text.substr(0, size);
+    }
+    text.remove_prefix(size);
+  }
+  return result;
+}
+
+std::string onOneLine(std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  while (!text.empty()) {
+    const char32_t character = firstCharacter(text);
+    const std::size_t size = text.starts_with(crLf) ? crLf.size() : firstCharacterSize(text);
+    if (isLineEnd(character) || isControl(character)) {
+      result += ' ';
     } else {
       result += text.substr(0, size);
     }

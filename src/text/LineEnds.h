@@ -12,6 +12,9 @@ inline constexpr std::string_view crLf = "\r\n";
 /// U+2029, and the non-characters U+FDD0 and U+FDD1 (which text widgets use as block marks).
 std::string toCrLf(std::string_view text);
 
+/// The text on one line: every line end, tab and other control character becomes a blank, CR LF a single one.
+std::string onOneLine(std::string_view text);
+
 /// The text with CR LF and lone CR as a single line feed, as an XML parser normalises line ends.
 std::string toLf(std::string_view text);
 

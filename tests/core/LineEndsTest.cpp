@@ -27,6 +27,17 @@ TEST(LineEnds, OtherCharactersAreNoLineEnds) {
   }
 }
 
+TEST(LineEnds, OneLineHasBlanksInTheirPlace) {
+  EXPECT_EQ(onOneLine("a\r\nb\nc\rd"), "a b c d");
+  EXPECT_EQ(onOneLine("\r\r\n\n"), "   ");
+  EXPECT_EQ(onOneLine("a\u2028b\u2029c\uFDD0d\uFDD1e"), "a b c d e");
+  EXPECT_EQ(onOneLine("\t\v\x1F\x7F\u0080\u009F"), "      ");
+  EXPECT_EQ(onOneLine(std::string_view("\0", 1)), " ");
+  for (const char* text : {"", " Größe µl ", "\u00A0\u2027\u202A", "\uFDD2\uFDCF", "~", "\xE2\x80", "\xFF"}) {
+    EXPECT_EQ(onOneLine(text), text);
+  }
+}
+
 TEST(LineEnds, CarriageReturnsBecomeLineFeeds) {
   EXPECT_EQ(toLf("a\r\nb\rc\nd"), "a\nb\nc\nd");
   EXPECT_EQ(toLf("\r\r\n"), "\n\n");

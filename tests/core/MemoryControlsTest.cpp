@@ -158,6 +158,12 @@ TEST_F(MemoryComboBoxTest, IndexesBeyondTheListAreRefused) {
   EXPECT_THAT(events_, IsEmpty());
 }
 
+TEST_F(MemoryComboBoxTest, ATypedTextIsOneLine) {
+  combo_.type("x\r\ny");
+  EXPECT_EQ(combo_.text(), "x y");
+  EXPECT_THAT(events_, IsEmpty());
+}
+
 TEST_F(MemoryComboBoxTest, LeavingIsTold) {
   combo_.leave();
   EXPECT_THAT(events_, ElementsAre("left"));
@@ -309,6 +315,14 @@ TEST(MemoryTextBox, HasCarriageReturnsAndLineFeedsWhateverWasSet) {
   EXPECT_EQ(box.text(), "a\r\nb\r\nc\r\nd");
   box.replace("x\ny");
   EXPECT_EQ(box.text(), "x\r\ny");
+}
+
+TEST(MemoryTextBox, OfOneLineTakesNoLineEndsFromItsUser) {
+  MemoryTextBox box(nullptr, MemoryTextBox::Lines::One);
+  box.setText("a\nb");
+  EXPECT_EQ(box.text(), "a\nb") << "as it was set";
+  box.replace("x\r\ny\tz");
+  EXPECT_EQ(box.text(), "x y z");
 }
 
 TEST(MemoryTextBox, OnlyTheUserRaisesChange) {

@@ -105,6 +105,11 @@ TEST_F(MemoryValueListTest, EveryKeystrokeIsOneNotification) {
   EXPECT_EQ(grid_.cellText(1, 1), "aµ€");
 }
 
+TEST_F(MemoryValueListTest, NothingTypedBreaksTheLine) {
+  grid_.type(1, "a\r\nb\tc");
+  EXPECT_EQ(grid_.cellText(1, 1), "a b c");
+}
+
 TEST_F(MemoryValueListTest, TypingMakesTheRowCurrentFirst) {
   grid_.type(2, "x");
   EXPECT_THAT(told_, ElementsAre("row 2", "text 'x' 1,2", "end b='x' 1,2"));

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 
 #include <QAbstractItemView>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -155,6 +157,13 @@ TEST_P(TypedComboBox, TypedTextMayBeAnItem) {
   QTest::keyClicks(combo.widget(), "Dispense");
   EXPECT_EQ(combo.text(), "Dispense");
   EXPECT_EQ(combo.index(), 1);
+}
+
+TEST_P(TypedComboBox, PastedLineEndsBecomeBlanks) {
+  QGuiApplication::clipboard()->setText(QStringLiteral("per\r\nhour"));
+  QTest::keyClick(combo.widget(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(combo.text(), "per hour");
+  EXPECT_EQ(shown(), "per hour");
 }
 
 TEST_P(TypedComboBox, EnterAddsNoItemAndTakesNoSimilarOne) {

@@ -2,14 +2,18 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QListView>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSplitter>
 #include <QTableView>
 #include <QTest>
+#include <QToolTip>
 
 #include "TestWindow.h"
 #include "control/EditorControl.h"
@@ -66,6 +70,17 @@ class Control : public testing::Test {
   void edit(int row) {
     QTest::mouseClick(grid().viewport(), Qt::LeftButton, {},
                       grid().visualRect(grid().model()->index(row - 1, 1)).center());
+  }
+  void askForMenu(int row) {
+    const QPoint place = grid().visualRect(grid().model()->index(row - 1, 1)).center();
+    QTest::mouseClick(grid().viewport(), Qt::RightButton, {}, place);
+    QContextMenuEvent request(QContextMenuEvent::Mouse, place, grid().viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(grid().viewport(), &request);
+  }
+  // The first entry of the open pop-up menu.
+  std::string menu() {
+    const auto& shown = widget<QMenu>("mnuParam");
+    return shown.isVisible() ? shown.actions().first()->text().toStdString() : std::string();
   }
   std::vector<std::string> lines(const char* list = "lstAtomSequence") {
     std::vector<std::string> texts;
@@ -170,15 +185,96 @@ TEST_F(Control, EnterLeadsFromTheSequenceToTheValues) {
   EXPECT_TRUE(editor(1)->hasFocus());
 }
 
-TEST_F(Control, TimerDoesNotStealTheRowOfAnOpenEdit) {
+// Past the moment at which the timer makes the first row current.
+void waitForTheTimer() { QTest::qWait(600); }
+
+TEST_F(Control, TimerChoosesTheFirstRowOnceTheGridIsRefilled) {
+  choose("Aspirate");
+  edit(2);
+  press("cmdDefault");
+  EXPECT_EQ(editorOf(control).currentGridRow(), 2);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return editorOf(control).currentGridRow() == 1; }, 1500));
+}
+
+TEST_F(Control, TimerLeavesTheRowThatWasEdited) {
   choose("Aspirate");
   edit(2);
   QTest::keyClicks(editor(2), "7");
-  QTest::qWait(700);
-  ASSERT_NE(editor(2), nullptr);
-  EXPECT_EQ(currentRow(), 2);
   QTest::keyClick(editor(2), Qt::Key_Return);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return currentRow() == 1; }, 1500));
+  waitForTheTimer();
+  EXPECT_EQ(currentRow(), 2);
+  QTest::keyClicks(QApplication::focusWidget(), "9");
+  EXPECT_EQ(value(2), "9");
+  EXPECT_EQ(value(1), "1");
+}
+
+TEST_F(Control, TimerLeavesTheRowThatWasGoneTo) {
+  choose("Aspirate");
+  grid().setFocus();
+  QTest::keyClick(&grid(), Qt::Key_Down);
+  waitForTheTimer();
+  EXPECT_EQ(currentRow(), 2);
+  EXPECT_EQ(editorOf(control).currentGridRow(), 2);
+}
+
+TEST_F(Control, TimerLeavesAnOpenMenu) {
+  choose("Aspirate");
+  askForMenu(2);
+  EXPECT_EQ(menu(), "Default:50");
+  waitForTheTimer();
+  EXPECT_EQ(menu(), "Default:50");
+  QTest::keyClick(&widget("mnuParam"), Qt::Key_Down);
+  QTest::keyClick(&widget("mnuParam"), Qt::Key_Return);
+  EXPECT_EQ(value(2), "50");
+  EXPECT_EQ(value(1), "1");
+}
+
+TEST_F(Control, TimerLeavesTheValueThatWasRefused) {
+  control.SetXMLStrings(catalogue, QStringLiteral("<CYCLE><VARIABLES/><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>Aspirate"
+                                                  "</ATOMNAME><PARAMETERS><PARAMETER><PARAMNAME>Volume</PARAMNAME>"
+                                                  "<PARAMVALUE>1</PARAMVALUE></PARAMETER><PARAMETER><PARAMNAME>Speed"
+                                                  "</PARAMNAME><PARAMVALUE>700</PARAMVALUE></PARAMETER></PARAMETERS>"
+                                                  "</ATOM></ATOMS></ATOMSEQUENCE></CYCLE>"));
+  press("cmdReplace");
+  ASSERT_NE(editor(2), nullptr);
+  waitForTheTimer();
+  QTest::keyClick(editor(2), Qt::Key_Escape);
+  waitForTheTimer();
+  EXPECT_EQ(currentRow(), 2);
+}
+
+TEST_F(Control, FirstWorkInARefilledGridTellsItsRow) {
+  choose("Aspirate");
+  edit(2);
+  press("cmdDefault");
+  grid().setFocus();
+  QTest::keyClicks(&grid(), "5");
+  EXPECT_EQ(value(1), "5");
+  EXPECT_EQ(editorOf(control).currentGridRow(), 1);
+}
+
+TEST_F(Control, MenuKeyIsForTheRowThatIsShown) {
+  choose("Aspirate");
+  edit(2);
+  press("cmdDefault");
+  grid().setFocus();
+  QContextMenuEvent request(QContextMenuEvent::Keyboard, {}, {});
+  QCoreApplication::sendEvent(grid().viewport(), &request);
+  EXPECT_EQ(currentRow(), 1);
+  EXPECT_EQ(menu(), "Default:1");
+  QTest::keyClick(&widget("mnuParam"), Qt::Key_Escape);
+}
+
+TEST_F(Control, ToolTipShowsOverTheValueThatWasClicked) {
+  choose("Aspirate");
+  edit(2);
+  const QPoint place(3, 3);
+  QMouseEvent move(QEvent::MouseMove, place, editor(2)->mapToGlobal(place), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(editor(2), &move);
+  QHelpEvent rest(QEvent::ToolTip, place, editor(2)->mapToGlobal(place));
+  QCoreApplication::sendEvent(editor(2), &rest);
+  EXPECT_EQ(QToolTip::text(), "Range: 1 to 100 Default: 50 Step: 1");
+  QToolTip::hideText();
 }
 
 TEST_F(Control, ReadingCycleChangedDoesNotDisturbTheEdit) {

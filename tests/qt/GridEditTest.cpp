@@ -199,6 +199,28 @@ TEST_F(GridEdit, WriteIntoTheEditedCellGoesOnWithTheNewText) {
   EXPECT_EQ(value(1), "15");
 }
 
+TEST_F(GridEdit, TypingGoesOnWhereACharacterHadToGo) {
+  platform::ValueListEvents filtering = events();
+  filtering.SetEditText = [&](int column, int row, const std::string& value) {
+    std::string cleaned = value;
+    if (std::erase(cleaned, ';') > 0) grid.setValue(column, row, cleaned);
+  };
+  grid.setEvents(filtering);
+  click(1, 1);
+  type("1234");
+  key(Qt::Key_Left);
+  key(Qt::Key_Left);
+  type(";5");
+  EXPECT_EQ(value(1), "12534");
+  QGuiApplication::clipboard()->setText(QStringLiteral("a;b;"));
+  key(Qt::Key_V, Qt::ControlModifier);
+  type("c");
+  EXPECT_EQ(value(1), "125abc34");
+  key(Qt::Key_End);
+  type(";6");
+  EXPECT_EQ(value(1), "125abc346");
+}
+
 TEST_F(GridEdit, WriteIntoAnyOtherCellTellsNothing) {
   click(1, 1);
   grid.setValue(1, 2, "Buffer");
@@ -275,10 +297,14 @@ TEST_F(GridEdit, FocusedValueIsReadyToBeTypedOver) {
 }
 
 TEST_F(GridEdit, PastedLinesBecomeOne) {
-  QGuiApplication::clipboard()->setText(QStringLiteral("1\n2\t3"));
+  QGuiApplication::clipboard()->setText(QStringLiteral("1\r\n2\t3"));
   view().setFocus();
   key(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(value(1), "1 2 3");
+  key(Qt::Key_Home);
+  key(Qt::Key_V, Qt::ControlModifier);
+  type("4");
+  EXPECT_EQ(value(1), "1 2 341 2 3");
 }
 
 TEST_F(GridEdit, CopyTakesTheCurrentValue) {

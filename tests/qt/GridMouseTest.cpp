@@ -19,6 +19,13 @@ class GridMouse : public testing::Test, public TestGrid {
                       Qt::NoModifier);
     QCoreApplication::sendEvent(view().viewport(), &event);
   }
+  // The pointer comes to a part of an open editor.
+  void moveTo(QWidget& part) {
+    ASSERT_TRUE(part.hasMouseTracking());
+    QMouseEvent event(QEvent::MouseMove, QPoint(), part.mapToGlobal(QPoint()), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(&part, &event);
+  }
   // Where the next row begins; a row ends with its grid line.
   int bottomOf(int row) { return view().rowViewportPosition(row - 1) + view().rowHeight(row - 1); }
   void askForMenu(QContextMenuEvent::Reason reason, const QPoint& place) {
@@ -54,25 +61,6 @@ TEST_F(GridMouse, ValueColumnBeginsAt151WhereverTheDividerStands) {
     EXPECT_LT(std::stoi(places[1].substr(10)), 151) << width;
     EXPECT_EQ(places[2], "MouseMove 151,19") << width;
     EXPECT_EQ(places[3], "MouseMove 171,19") << width;
-  }
-}
-
-TEST_F(GridMouse, PointerOverAnOpenEditorIsOverItsCell) {
-  for (const int row : {1, 2}) {
-    click(1, row);
-    told();
-    QWidget& line = qt::lineOf(*editor(row));
-    const QPoint place = line.rect().center();
-    QMouseEvent event(QEvent::MouseMove, place, line.mapToGlobal(place), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&line, &event);
-    EXPECT_TRUE(line.hasMouseTracking());
-    const std::vector<std::string> moves = told();
-    ASSERT_EQ(moves.size(), 1U);
-    int x = 0;
-    int y = 0;
-    ASSERT_EQ(std::sscanf(moves[0].c_str(), "MouseMove %d,%d", &x, &y), 2);
-    EXPECT_GE(x, 151);
-    EXPECT_EQ(y / 19, row);
   }
 }
 
@@ -116,13 +104,14 @@ TEST_F(GridMouse, RightPressMakesTheRowCurrentBeforeTheMenuIsAskedFor) {
   EXPECT_EQ(grid.view()->menuPlace(), view().viewport()->mapToGlobal(place));
 }
 
-TEST_F(GridMouse, MenuKeyAsksAtTheCurrentValue) {
+TEST_F(GridMouse, MenuKeyTellsTheRowAndAsksAtItsValue) {
   grid.setRow(2);
   askForMenu(QContextMenuEvent::Keyboard, {});
-  ASSERT_EQ(log.size(), 1U);
+  ASSERT_EQ(log.size(), 2U);
+  EXPECT_EQ(log[0], "SelectionChange 2");
   int x = 0;
   int y = 0;
-  ASSERT_EQ(std::sscanf(log[0].c_str(), "ContextPopup %d,%d", &x, &y), 2);
+  ASSERT_EQ(std::sscanf(log[1].c_str(), "ContextPopup %d,%d", &x, &y), 2);
   EXPECT_GE(x, 151);
   EXPECT_EQ(y / 19, 2);
 }
@@ -130,16 +119,17 @@ TEST_F(GridMouse, MenuKeyAsksAtTheCurrentValue) {
 TEST_F(GridMouse, ShiftF10AsksLikeTheMenuKey) {
   view().setFocus();
   key(Qt::Key_F10, Qt::ShiftModifier);
-  ASSERT_EQ(log.size(), 1U);
-  EXPECT_EQ(log[0].substr(0, 12), "ContextPopup");
+  ASSERT_EQ(log.size(), 2U);
+  EXPECT_EQ(log[1].substr(0, 12), "ContextPopup");
   told();
   click(1, 2);
   type("Tr");
   told();
   key(Qt::Key_F10, Qt::ShiftModifier);
-  ASSERT_EQ(log.size(), 2U);
+  ASSERT_EQ(log.size(), 3U);
   EXPECT_EQ(log[0], "EndOfEdit 1 2 Source Tr");
-  EXPECT_EQ(log[1].substr(0, 12), "ContextPopup");
+  EXPECT_EQ(log[1], "SelectionChange 2");
+  EXPECT_EQ(log[2].substr(0, 12), "ContextPopup");
 }
 
 TEST_F(GridMouse, MenuKeyBringsTheCurrentValueIntoView) {
@@ -148,6 +138,81 @@ TEST_F(GridMouse, MenuKeyBringsTheCurrentValueIntoView) {
   view().scrollToBottom();
   askForMenu(QContextMenuEvent::Keyboard, {});
   EXPECT_TRUE(view().viewport()->rect().contains(view().viewport()->mapFromGlobal(view().menuPlace())));
+}
+
+TEST_F(GridMouse, MenuKeyInAnEditorAsksForItsRow) {
+  click(1, 3);
+  grid.setRow(1);
+  told();
+  askForMenu(QContextMenuEvent::Keyboard, {});
+  ASSERT_EQ(log.size(), 2U);
+  EXPECT_EQ(log[0], "SelectionChange 3");
+  EXPECT_EQ(editedRow(), 0);
+}
+
+TEST_F(GridMouse, PointerOverAnOpenEditorIsOverTheGrid) {
+  click(1, 1);
+  told();
+  moveTo(*editor(1));
+  EXPECT_THAT(told(), ElementsAre("MouseMove 151,19"));
+  click(1, 2);
+  told();
+  moveTo(*editor(2));
+  EXPECT_THAT(told(), ElementsAre("MouseMove 151,38"));
+  QLineEdit& line = qt::lineOf(*editor(2));
+  EXPECT_TRUE(line.hasMouseTracking());
+  moveTo(line);
+  ASSERT_EQ(log.size(), 1U);
+  move(line.mapTo(view().viewport(), QPoint()));
+  EXPECT_EQ(log[0], log[1]);
+}
+
+TEST_F(GridMouse, PressOnAnOpenEditorIsAPressOnTheGrid) {
+  click(1, 3);
+  told();
+  grid.setRow(1);
+  const QPoint place(20, 0);
+  QTest::mousePress(editor(3), Qt::LeftButton, {}, place);
+  QTest::mouseRelease(editor(3), Qt::LeftButton, {}, place);
+  EXPECT_THAT(told(), ElementsAre("SelectionChange 3", "MouseDown 0 171,57"));
+  EXPECT_EQ(editedRow(), 3);
+  QTest::mouseDClick(editor(3), Qt::LeftButton, {}, place);
+  QTest::mouseRelease(editor(3), Qt::LeftButton, {}, place);
+  EXPECT_THAT(told(), ElementsAre("MouseDown 0 171,57"));
+  EXPECT_EQ(editedRow(), 3);
+}
+
+TEST_F(GridMouse, OtherButtonsOnAnOpenEditorAreToldOnceToo) {
+  for (const int row : {1, 2}) {
+    click(1, row);
+    told();
+    QLineEdit& line = qt::lineOf(*editor(row));
+    QTest::mouseClick(&line, Qt::RightButton, {}, {1, 1});
+    QTest::mouseClick(&line, Qt::MiddleButton, {}, {1, 1});
+    ASSERT_EQ(log.size(), 2U) << row;
+    EXPECT_EQ(log[0].substr(0, 11), "MouseDown 1");
+    EXPECT_EQ(log[1].substr(0, 11), "MouseDown 2");
+  }
+}
+
+TEST_F(GridMouse, PressOnTheArrowOfAnOpenEditorIsToldOnce) {
+  click(1, 2);
+  told();
+  QWidget& combo = *editor(2);
+  QTest::mouseClick(&combo, Qt::LeftButton, {}, {combo.width() - 4, combo.height() / 2});
+  ASSERT_EQ(log.size(), 1U);
+  EXPECT_EQ(log[0].substr(0, 11), "MouseDown 0");
+  EXPECT_EQ(editedRow(), 2);
+}
+
+TEST_F(GridMouse, AnswerToAPressOnTheEditorMayCloseIt) {
+  click(1, 1);
+  platform::ValueListEvents closing;
+  closing.MouseDown = [this](platform::MouseButton, int, int) { grid.DeleteRow(1); };
+  grid.setEvents(closing);
+  QTest::mousePress(editor(1), Qt::LeftButton, {}, {1, 1});
+  EXPECT_EQ(editedRow(), 0);
+  EXPECT_EQ(grid.RowCount(), 3);
 }
 
 TEST_F(GridMouse, RightClickOnAnOpenEditorAsksForTheMenuOfTheGrid) {

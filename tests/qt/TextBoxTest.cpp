@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QTest>
 
@@ -111,6 +113,25 @@ TEST_F(TextBoxOfLines, UndoIsAnEditToo) {
 TEST_F(TextBoxOfLines, TabLeavesTheBox) { EXPECT_TRUE(box.widget()->tabChangesFocus()); }
 
 class TextBoxOfOneLine : public AnyTextBox<qt::QtLineBox> {};
+
+TEST_F(TextBoxOfOneLine, PastedLineEndsBecomeBlanks) {
+  box.setText("ab");
+  QGuiApplication::clipboard()->setText(QStringLiteral("1\r\n2\t"));
+  QTest::keyClick(box.widget(), Qt::Key_Home);
+  QTest::keyClick(box.widget(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(box.text(), "1 2 ab");
+  EXPECT_EQ(changes, 1);
+  QTest::keyClicks(box.widget(), "3");
+  EXPECT_EQ(box.text(), "1 2 3ab") << "behind what was pasted";
+}
+
+TEST_F(TextBoxOfOneLine, KeepsWhatIsSetUntilItIsEdited) {
+  box.setText("a\nb");
+  EXPECT_EQ(box.text(), "a\nb");
+  QTest::keyClick(box.widget(), Qt::Key_End);
+  QTest::keyClicks(box.widget(), "c");
+  EXPECT_EQ(box.text(), "a bc");
+}
 
 TEST_F(TextBoxOfOneLine, HandlerMayWriteTheTextBack) {
   box.setEvents({.Change = [this] {

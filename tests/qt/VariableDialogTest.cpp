@@ -38,6 +38,11 @@ class VariableDialog : public testing::Test {
   Widget& widget(const char* name) {
     return *owner.findChild<Widget*>(QLatin1String(name));
   }
+  // Where the focus is.
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+  }
+  void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text)); }
   // Shows the dialog and works in it as soon as it is there.
   template <typename Work>
   void show(const Work& work) {
@@ -67,30 +72,57 @@ TEST_F(VariableDialog, EnterPressesOkFromTheNameBox) {
   EXPECT_THAT(log, ElementsAre("OK"));
 }
 
-TEST_F(VariableDialog, EnterInTheGridIsTheGrids) {
+TEST_F(VariableDialog, EnterGoesThroughTheSettingsToOk) {
   show([this] {
     auto& grid = widget<QTableView>("grdParamStnd");
     grid.setFocus();
-    QTest::keyClicks(&grid, "5");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    type("5");
+    press(Qt::Key_Return);
     EXPECT_TRUE(dialog.frmparams().isLoaded());
     EXPECT_EQ(dialog.grdParamStnd().Row(), 2);
+    EXPECT_FALSE(grid.hasFocus()) << "the next value is being edited";
+    type("0");
+    press(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_TRUE(dialog.frmparams().isLoaded());
+    EXPECT_TRUE(grid.hasFocus());
+    press(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_FALSE(dialog.frmparams().isLoaded());
   });
-  EXPECT_THAT(log, ElementsAre("5", "Close"));
+  EXPECT_THAT(log, ElementsAre("5", "0", "OK"));
 }
 
-TEST_F(VariableDialog, EnterBehindTheLastSettingPressesOk) {
+TEST_F(VariableDialog, TabAndF2LeadToTheSettings) {
   show([this] {
     auto& grid = widget<QTableView>("grdParamStnd");
     grid.setFocus();
-    QTest::keyClick(&grid, Qt::Key_Down);
-    QTest::keyClicks(&grid, "5");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_TRUE(dialog.frmparams().isLoaded());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_FALSE(dialog.frmparams().isLoaded());
+    press(Qt::Key_F2);
+    EXPECT_FALSE(grid.hasFocus());
+    type("5");
+    press(Qt::Key_Tab);
+    type("0");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(dialog.grdParamStnd().cellText(1, 2), "0");
+    EXPECT_TRUE(widget("cboUnit").hasFocus());
   });
-  EXPECT_THAT(log, ElementsAre("5", "OK"));
+  EXPECT_THAT(log, ElementsAre("5", "0", "Close"));
+}
+
+TEST_F(VariableDialog, RefusedOkMayOpenAnEditor) {
+  dialog.OKButton().setEvents({[this] {
+    log.push_back("OK");
+    dialog.grdParamStnd().focusValue(1);
+  }});
+  show([this] {
+    widget<QTableView>("grdParamStnd").setFocus();
+    press(Qt::Key_Down);
+    type("5");
+    press(Qt::Key_Return);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(dialog.frmparams().isLoaded());
+    type("7");
+    EXPECT_EQ(dialog.grdParamStnd().cellText(1, 1), "7");
+  });
+  EXPECT_THAT(log, ElementsAre("5", "OK", "Close"));
 }
 
 TEST_F(VariableDialog, EscapeGivesUpAnEditFirstAndThenTheDialog) {

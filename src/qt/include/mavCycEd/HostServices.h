@@ -20,8 +20,8 @@ struct HostServices {
   /// The local time that is written into cycles as the time of their creation and last change. The control's own one
   /// is the system's clock.
   std::shared_ptr<platform::Clock> clock = nullptr;
-  /// The timer that selects the grid's first row half a second after the grid was refilled. The control's own one waits
-  /// while a value is being edited.
+  /// The timer that selects the grid's first row half a second after the grid was refilled. The control's own one gives
+  /// way to an operator who works in the grid by then: it switches itself off.
   std::shared_ptr<platform::Timer> gridTimer = nullptr;
 };
 
