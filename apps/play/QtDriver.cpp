@@ -368,10 +368,12 @@ ComboView QtDriver::combo(std::string_view name) const {
 
 TextBoxView QtDriver::textBox(std::string_view name) const {
   auto& widget = see<QWidget>(name);
-  QString text;
-  if (const auto* const lines = qobject_cast<QPlainTextEdit*>(&widget)) text = lines->document()->toRawText();
-  if (const auto* const line = qobject_cast<QLineEdit*>(&widget)) text = line->text();
-  return {text::toCrLf(text.toStdString()), widget.isEnabled()};
+  std::string text;
+  if (const auto* const lines = qobject_cast<QPlainTextEdit*>(&widget)) {
+    text = text::toCrLf(lines->document()->toRawText().toStdString());
+  }
+  if (const auto* const line = qobject_cast<QLineEdit*>(&widget)) text = line->text().toStdString();
+  return {text, widget.isEnabled()};
 }
 
 FrameView QtDriver::frame(std::string_view name) const {

@@ -24,10 +24,11 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
 // Pictures are made as small as the pages show them here: the text widget itself does so without smoothing.
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   constexpr int widest = 620;
-  const QVariant resource = QTextBrowser::loadResource(type, name);
+  QVariant resource = QTextBrowser::loadResource(type, name);
   if (type != QTextDocument::ImageResource) return resource;
   const QImage image = QImage::fromData(resource.toByteArray());
-  return image.width() > widest ? image.scaledToWidth(widest, Qt::SmoothTransformation) : resource;
+  if (image.width() <= widest) return resource;
+  return image.scaledToWidth(widest, Qt::SmoothTransformation);
 }
 
 void HelpBrowser::changeEvent(QEvent* event) {
