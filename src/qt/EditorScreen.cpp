@@ -54,6 +54,7 @@ void WidgetRelease::operator()(QWidget* widget) const {
 void EditorScreen::outliveControl() {
   content_.get_deleter().later = true;
   content_->setParent(nullptr);
+  variableDialogs_.outliveControl();
 }
 
 ControlScreen EditorScreen::controls() {

@@ -23,7 +23,7 @@ class QtVariableDialog : public VariableDialogScreen {
  public:
   explicit QtVariableDialog(QWidget* owner);
 
-  platform::ModalDialog& frmparams() override { return frmparams_; }
+  QtModalDialog& frmparams() override { return frmparams_; }
   platform::Frame& fraValue() override { return fraValue_; }
   platform::TextBox& txtParamName() override { return txtParamName_; }
   platform::Frame& fraParamType() override { return fraParamType_; }
@@ -68,12 +68,15 @@ class QtVariableDialogs : public VariableDialogFactory {
  public:
   explicit QtVariableDialogs(QWidget& control) : control_(control) {}
 
-  std::unique_ptr<VariableDialogScreen> createVariableDialog() override {
-    return std::make_unique<QtVariableDialog>(&control_);
-  }
+  std::unique_ptr<VariableDialogScreen> createVariableDialog() override;
+
+  /// The control goes while a dialog's procedure is still running: the dialog's window leaves it, and goes when the
+  /// procedure has ended.
+  void outliveControl();
 
  private:
   QWidget& control_;
+  QPointer<ModalWindow> window_;  // of the dialog that was made last
 };
 
 }  // namespace mavCycEd::qt
