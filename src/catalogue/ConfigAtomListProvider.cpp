@@ -51,12 +51,10 @@ std::vector<std::string> ConfigAtomListProvider::furtherAtomNames() {
 }
 
 UnitOfMeasure ConfigAtomListProvider::lookUpUnit(std::string_view unitName) {
-  for (const XmlNode& unit : catalogue_.configuration().elements("Units/UNIT")) {
-    if (cleanedEntry(childText(unit, "UNITNAME")) != unitName) continue;
-    const XmlNode text = unit.selectSingleNode("UNITTEXT");
-    return {text ? text.text() : std::string(unitName), text::integerValue(childText(unit, "FACTOR"))};
-  }
-  return {std::string(unitName), 1};
+  const XmlNode unit = catalogue_.configuration().unit(std::string(unitName));
+  if (!unit) return {std::string(unitName), 1};
+  const XmlNode text = unit.selectSingleNode("UNITTEXT");
+  return {text ? text.text() : std::string(unitName), text::integerValue(childText(unit, "FACTOR"))};
 }
 
 bool ConfigAtomListProvider::isObjectHidden(const XmlNode& object) { return isHidden(object); }

@@ -13,6 +13,7 @@ void Configuration::setText(std::string text) {
   text_ = std::move(text);
   parsed_.reset();
   arguments_.reset();
+  units_.reset();
 }
 
 XmlNode Configuration::root() {
@@ -28,6 +29,19 @@ XmlNode Configuration::root() {
 platform::XmlNodeList Configuration::elements(std::string_view path) {
   const XmlNode config = root();
   return config ? config.selectNodes(path) : platform::XmlNodeList();
+}
+
+XmlNode Configuration::unit(const std::string& name) {
+  if (!units_) {
+    std::unordered_map<std::string, XmlNode> units;
+    for (const XmlNode& unit : elements("Units/UNIT")) {
+      const XmlNode unitName = unit.selectSingleNode("UNITNAME");
+      units.emplace(unitName ? cleanedEntry(unitName.text()) : std::string(), unit);
+    }
+    units_ = std::move(units);
+  }
+  const auto found = units_->find(name);
+  return found == units_->end() ? XmlNode() : found->second;
 }
 
 const Configuration::Arguments& Configuration::arguments() {

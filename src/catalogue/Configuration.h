@@ -29,6 +29,9 @@ class Configuration {
   /// An OBJECT without OBJECTNAME ends the search.
   void appendArguments(std::string_view objectName, ValueList& list);
 
+  /// The element `Config/Units/UNIT` of this name, the first of several; none when there is none.
+  platform::XmlNode unit(const std::string& name);
+
  private:
   using Arguments = std::unordered_map<std::string, ValueList>;
   platform::XmlNode root();
@@ -37,7 +40,8 @@ class Configuration {
   platform::XmlDocumentFactory& xmlDocuments_;
   std::string text_;
   std::unique_ptr<platform::XmlDocument> parsed_;
-  std::optional<Arguments> arguments_;  // by object name
+  std::optional<Arguments> arguments_;                                       // by object name
+  std::optional<std::unordered_map<std::string, platform::XmlNode>> units_;  // by name
 };
 
 }  // namespace mavCycEd

@@ -37,9 +37,12 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
         catalogue_(services.xmlDocuments),
         provider_(provider ? std::move(provider) : std::make_shared<ConfigAtomListProvider>(catalogue_)) {}
 
-  ~Implementation() = default;
   Implementation(const Implementation&) = delete;
   Implementation& operator=(const Implementation&) = delete;
+  // A procedure that outlived the control may have shown its lines once more.
+  ~Implementation() {
+    guarded(errors_, "UserControl_Terminate", [this] { screen_.lstAtomSequence.clear(); });
+  }
 
   void start() {
     guarded(errors_, "UserControl_Initialize", [this] {
@@ -53,8 +56,10 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
     ended_ = true;
     errors_.end();
     messages_.end();
-    variables_.end();
-    disconnectScreen(screen_);
+    guarded(errors_, "UserControl_Terminate", [this] {
+      disconnectScreen(screen_);
+      variables_.end();
+    });
   }
 
   /// Runs one of the control's entries: a member, or the answer to an event of the screen.
@@ -126,11 +131,7 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
    public:
     explicit Running(Implementation& control) : control_(control) { ++control_.running_; }
     ~Running() {
-      while (control_.running_ == 1 && !control_.ended_) {
-        const std::optional<Texts> texts = std::exchange(control_.putOff_, std::nullopt);
-        if (!texts) break;
-        control_.SetXMLStrings(texts->latestKam, texts->cycle);
-      }
+      if (control_.running_ == 1) control_.doWhatWasPutOff();
       --control_.running_;
     }
     Running(const Running&) = delete;
@@ -140,10 +141,24 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
     Implementation& control_;
   };
 
-  // The answer to an event that brings nothing with it.
-  template <typename Procedure>
-  std::function<void()> answer(Procedure procedure) {
-    return [this, procedure] { run(procedure); };
+  // A handler that asks for another cycle each time that one is loaded is given up.
+  void doWhatWasPutOff() {
+    constexpr int mostRounds = 16;
+    for (int round = 0; round < mostRounds && !ended_; ++round) {
+      const std::optional<Texts> texts = std::exchange(putOff_, std::nullopt);
+      if (!texts) return;
+      SetXMLStrings(texts->latestKam, texts->cycle);
+    }
+    putOff_.reset();
+  }
+
+  // The answer to an event. Who tells of the event may hold a copy of the answer for longer than the control lives.
+  template <typename... Arguments, typename Procedure>
+  std::function<void(Arguments...)> answer(Procedure procedure) {
+    return [control = weak_from_this(), procedure](Arguments... arguments) {
+      const auto self = control.lock();
+      if (self && !self->ended_) self->run([&] { procedure(arguments...); });
+    };
   }
 
   // The screen's events go to the procedures that answer them.
@@ -160,7 +175,7 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
     screen_.cboAtom.setEvents({.Click = answer([this] { sequenceEditing_.cboAtom_Click(); }), .LostFocus = {}});
     screen_.cmdDefault.setEvents({.Click = answer([this] { sequenceEditing_.cmdDefault_Click(); })});
     screen_.mnuSubParam.setEvents(
-        {.Click = [this](int index) { run([&] { offeredValues_.mnuSubParam_Click(index); }); }});
+        {.Click = answer<int>([this](int index) { offeredValues_.mnuSubParam_Click(index); })});
     screen_.tmrUpdateGrid.setEvents({.Tick = answer([this] { tmrUpdateGrid_Timer(); })});
     connectGrid();
   }
@@ -168,17 +183,17 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
   void connectGrid() {
     platform::ValueListEvents events;
     events.SelectionChange = answer([this] { offeredValues_.GrdAtom_OnSelectionChange(); });
-    events.ContextPopup = [this](int x, int y) { run([&] { offeredValues_.GrdAtom_OnContextPopup(x, y); }); };
-    events.MouseDown = [this](platform::MouseButton button, int x, int y) {
-      run([&] { offeredValues_.GrdAtom_OnMouseDown(button, x, y); });
-    };
-    events.MouseMove = [this](int x, int y) { run([&] { offeredValues_.GrdAtom_OnMouseMove(x, y); }); };
-    events.SetEditText = [this](int column, int row, const std::string& value) {
-      run([&] { validation_.GrdAtom_OnSetEditText(column, row, value); });
-    };
-    events.EndOfEdit = [this](int, int row, const std::string&, const std::string& value) {
-      run([&] { validation_.GrdAtom_OnEndOfEdit(row, value); });
-    };
+    events.ContextPopup = answer<int, int>([this](int x, int y) { offeredValues_.GrdAtom_OnContextPopup(x, y); });
+    events.MouseDown = answer<platform::MouseButton, int, int>(
+        [this](platform::MouseButton button, int x, int y) { offeredValues_.GrdAtom_OnMouseDown(button, x, y); });
+    events.MouseMove = answer<int, int>([this](int x, int y) { offeredValues_.GrdAtom_OnMouseMove(x, y); });
+    events.SetEditText = answer<int, int, const std::string&>([this](int column, int row, const std::string& value) {
+      validation_.GrdAtom_OnSetEditText(column, row, value);
+    });
+    events.EndOfEdit = answer<int, int, const std::string&, const std::string&>(
+        [this](int, int row, const std::string&, const std::string& value) {
+          validation_.GrdAtom_OnEndOfEdit(row, value);
+        });
     screen_.GrdAtom.setEvents(std::move(events));
   }
 
@@ -211,6 +226,7 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
       loader_.FillCycle();
       cycle_.replaced();
     } else if (text::hasMoreCharactersThan(strCycle, tooShortForMacro) && macroText_.IsAnMacro(strCycle)) {
+      const ExtraValues::Hold hold(extraValues_);  // each line fills the grid anew
       macroText_.FillMacro(strCycle);
     }
   }

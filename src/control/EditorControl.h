@@ -21,8 +21,9 @@ namespace mavCycEd {
 ///
 /// A handler, and whatever runs while a message box or the dialog is open, may call every member and may destroy the
 /// control. SetXMLStrings is then put off until the procedure that is running has ended; of several calls the last one
-/// counts. A control that is destroyed closes its dialog, tells nothing more, and lets the running procedure end on a
-/// screen that nobody sees.
+/// counts, and one whose own events ask for the next one, time and again, is given up after a while. So are events that
+/// come of what a handler does in an event. A control that is destroyed closes its dialog, tells nothing more, and lets
+/// the running procedure end on a screen that nobody sees.
 class EditorControl {
  public:
   /// Starts the control on a screen: captions and titles are set, the timer is off, nothing is loaded. Without a

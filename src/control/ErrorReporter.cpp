@@ -21,12 +21,16 @@ class Counted {
 }  // namespace
 
 void ErrorReporter::report(const RunTimeError& error, std::string_view procedure) noexcept {
+  constexpr int deepest = 16;
+  constexpr int mostInside = 32;
+  if (ended_) return;
+  if (told_ == 0) inside_ = 0;
   try {
     errors_.copyError(error);
-    constexpr int deepest = 16;
     // A copy is called: the handler may end the control.
     const CycleEditorErrorHandler onError = onError_;
-    if (!onError || told_ >= deepest) return;
+    if (!onError || told_ >= deepest || inside_ >= mostInside) return;
+    if (told_ > 0) ++inside_;
     CycleEditorErrorEvent event;
     event.lngError = errors_.record().number;
     event.strError = errors_.record().description;

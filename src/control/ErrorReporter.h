@@ -16,13 +16,18 @@ class ErrorReporter : public ErrorSink {
   /// A handler that throws is on its own: what it throws ends here. One whose own calls fail again and again is not
   /// called without end.
   void report(const RunTimeError& error, std::string_view procedure) noexcept override;
-  /// From now on nobody is told.
-  void end() { onError_ = {}; }
+  /// From now on nobody is told, and nothing outside the control is touched.
+  void end() {
+    ended_ = true;
+    onError_ = {};
+  }
 
  private:
   modErr& errors_;
   CycleEditorErrorHandler onError_;
-  int told_ = 0;  // events that are being handled, each inside the one before
+  bool ended_ = false;
+  int told_ = 0;    // events that are being handled, each inside the one before
+  int inside_ = 0;  // events that were told since the outermost of them began
 };
 
 }  // namespace mavCycEd

@@ -38,7 +38,16 @@ void modErr::copyError(const RunTimeError& error) {
   record_.number = error.number();
   record_.description = error.description();
   record_.source = error.source();
-  if (error.source() != RunTimeError::ownSource) record_.lastSystemError = systemMessage_.lastErrorCode();
+  if (error.source() != RunTimeError::ownSource) record_.lastSystemError = lastSystemError();
+}
+
+// 0 also where the system cannot say: the error itself is to be told all the same.
+std::int32_t modErr::lastSystemError() const noexcept {
+  try {
+    return systemMessage_.lastErrorCode();
+  } catch (...) {
+    return 0;
+  }
 }
 
 std::string modErr::GetSystemMessage(std::int32_t lngMsgID) const {

@@ -39,6 +39,8 @@ class modErr {
   static std::string removeTerminatingCRLF(std::string_view text);
 
  private:
+  std::int32_t lastSystemError() const noexcept;
+
   const platform::SystemMessage& systemMessage_;
   ErrorRecord record_;
 };

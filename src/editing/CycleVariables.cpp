@@ -99,7 +99,7 @@ void CycleVariables::cmdDel_Click() {
 
 void CycleVariables::cmdIns_Click() {
   guarded(errors_, "cmdIns_Click", [this] {
-    if (surroundings_.cboAtom.text().empty()) return;
+    if (open_ != nullptr || surroundings_.cboAtom.text().empty()) return;
     cycle_.edited();
     const int index = surroundings_.lstVariables.index();
     exchange_ = DialogExchange();
@@ -124,9 +124,10 @@ void CycleVariables::insertEntry(int position, const std::string& entry) {
 void CycleVariables::lstVariables_DblClick() {
   guarded(errors_, "lstVariables_DblClick", [this] {
     const int index = surroundings_.lstVariables.index();
-    if (index < 0) return;
+    if (open_ != nullptr || index < 0) return;
     const std::string entry = surroundings_.lstVariables.itemText(index);
     const bool inUse = tellUses(entry);
+    if (open_ != nullptr) return;  // while the message was shown
     cycle_.edited();
     exchange_ = {true, entry, {}};
     runDialog(inUse);

@@ -1,5 +1,8 @@
 #include "editing/SyringeConstants.h"
 
+#include <string_view>
+#include <unordered_set>
+
 #include "paramgrid/modControlArray.h"
 
 namespace mavCycEd {
@@ -10,11 +13,12 @@ void SyringeConstants::cboUnit_LostFocus() {
     catalogue_.appendObjectValues(screen_.cboUnit().text(), values);
     EmptyMnu();
     platform::PopupMenu& menu = screen_.mnuSyrConstant();
+    std::unordered_set<std::string_view> offered;
     for (const std::string& value : values) {
-      if (value.empty()) continue;
+      if (value.empty() || !offered.insert(value).second) continue;
       if (menu.itemCaption(0).empty()) {
         menu.setItemCaption(0, value);
-      } else if (!IsMenuItem(value)) {
+      } else {
         const int place = modControlArray::firstFreePlace(menu);
         menu.createItem(place);
         menu.setItemCaption(place, value);
@@ -26,14 +30,6 @@ void SyringeConstants::cboUnit_LostFocus() {
 void SyringeConstants::EmptyMnu() {
   modControlArray::deleteItems(screen_.mnuSyrConstant());
   screen_.mnuSyrConstant().setItemCaption(0, "");
-}
-
-bool SyringeConstants::IsMenuItem(std::string_view caption) const {
-  const platform::PopupMenu& menu = screen_.mnuSyrConstant();
-  for (int i = 0; i <= menu.lastIndex(); ++i) {
-    if (menu.hasItem(i) && menu.itemCaption(i) == caption) return true;
-  }
-  return false;
 }
 
 void SyringeConstants::grdParamStnd_OnMouseDown(platform::MouseButton button) {

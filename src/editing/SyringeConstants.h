@@ -26,7 +26,6 @@ class SyringeConstants {
 
  private:
   void EmptyMnu();
-  bool IsMenuItem(std::string_view caption) const;
 
   VariableDialogScreen& screen_;
   modCycleHelper& catalogue_;

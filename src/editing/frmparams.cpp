@@ -1,6 +1,7 @@
 #include "editing/frmparams.h"
 
 #include <array>
+#include <unordered_set>
 #include <vector>
 
 #include "editing/VariableDefinition.h"
@@ -113,19 +114,14 @@ void frmparams::lockName() {
 void frmparams::FillStandardUnits() {
   guarded(errors_, "FillStandardUnits", [this] {
     const std::string units = catalogue_.standardUnits();
+    std::unordered_set<std::string> offered;
+    for (int i = 0; i < screen_.cboUnit().itemCount(); ++i) offered.insert(screen_.cboUnit().itemText(i));
     for (const std::string_view unit : text::split(units, ';')) {
       if (unit.empty()) continue;
       const std::string text = provider_.lookUpUnit(cleanedEntry(unit)).text;
-      if (!text.empty() && !itemInComboExists(screen_.cboUnit(), text)) screen_.cboUnit().addItem(text);
+      if (!text.empty() && offered.insert(text).second) screen_.cboUnit().addItem(text);
     }
   });
-}
-
-bool frmparams::itemInComboExists(const platform::ComboBox& combo, std::string_view text) {
-  for (int i = 0; i < combo.itemCount(); ++i) {
-    if (combo.itemText(i) == text) return true;
-  }
-  return false;
 }
 
 void frmparams::fillSettings(std::string_view defaultValue, std::string_view lower, std::string_view upper) {

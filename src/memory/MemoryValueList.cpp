@@ -58,32 +58,38 @@ void MemoryValueList::changeEditText(const std::string& text) {
 void MemoryValueList::type(int row, std::string_view typed) {
   const std::string line = text::onOneLine(typed);
   std::string_view text = line;
+  const Lifetime::Watch alive(lifetime_);
   makeCurrent(row);
+  if (!alive) return;
   editedRow_ = row;
   if (text.empty() && !rows_.cell(valueColumn, row).empty()) changeEditText({});
   bool replacing = true;  // the first keystroke replaces the value, the following ones add to it
-  while (!text.empty() && editedRow_ != 0) {
+  while (alive && !text.empty() && editedRow_ != 0) {
     const std::size_t size = text::firstCharacterSize(text);
     const std::string before = replacing ? std::string() : rows_.cell(valueColumn, editedRow_);
     changeEditText(before + std::string(text.substr(0, size)));
     replacing = false;
     text.remove_prefix(size);
   }
+  if (!alive) return;
   const int ended = std::exchange(editedRow_, 0);
   if (ended == 0) return;
   notify(events_.EndOfEdit, valueColumn, ended, rows_.cell(0, ended), rows_.cell(valueColumn, ended));
 }
 
 void MemoryValueList::pick(int row, std::string_view item) {
+  const Lifetime::Watch alive(lifetime_);
   makeCurrent(row);
+  if (!alive) return;
   rows_.setCell(valueColumn, row, item);
   notify(events_.EndOfEdit, valueColumn, row, rows_.cell(0, row), std::string(item));
 }
 
 void MemoryValueList::pressMouse(platform::MouseButton button, int x, int y) {
   constexpr int rowHeight = 19;
+  const Lifetime::Watch alive(lifetime_);
   makeCurrent(y / rowHeight);
-  notify(events_.MouseDown, button, x, y);
+  if (alive) notify(events_.MouseDown, button, x, y);
 }
 
 void MemoryValueList::moveMouse(int x, int y) { notify(events_.MouseMove, x, y); }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "memory/Control.h"
+#include "memory/Lifetime.h"
 #include "paramgrid/ValueListRows.h"
 #include "platform/ValueListActiveX.h"
 
@@ -57,6 +58,7 @@ class MemoryValueList : public platform::ValueListActiveX, public Control {
   std::string toolTipText_;
   platform::Font font_;
   int editedRow_ = 0;  // the row whose value is being edited; 0: none
+  Lifetime lifetime_;
 };
 
 }  // namespace mavCycEd::memory

@@ -113,10 +113,24 @@ void ExtraValues::Delete_Extra_Udons(std::string_view variable) {
 }
 
 void ExtraValues::Update_Extra_Params() {
-  guarded(errors_, "Update_Extra_Params", [this] {
+  if (held_ > 0) {
+    putOff_ = lstVariables_.itemCount();
+  } else {
+    offerFirst(lstVariables_.itemCount());
+  }
+}
+
+ExtraValues::Hold::~Hold() {
+  if (--values_.held_ > 0) return;
+  values_.offerFirst(std::min(values_.putOff_, values_.lstVariables_.itemCount()));
+  values_.putOff_ = 0;
+}
+
+void ExtraValues::offerFirst(int variables) {
+  guarded(errors_, "Update_Extra_Params", [&] {
     // The names of all variables of a unit at once: there may be a great many.
     std::unordered_map<std::string, std::string> namesOfUnit;
-    for (int i = 0; i < lstVariables_.itemCount(); ++i) {
+    for (int i = 0; i < variables; ++i) {
       const std::optional<Variable> variable = parsed(lstVariables_.itemText(i));
       if (variable) appendName(namesOfUnit[variable->unit], variable->name);
     }

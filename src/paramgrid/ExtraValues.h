@@ -26,7 +26,21 @@ class ExtraValues {
   /// Offers all variables of the cycle, after the grid was refilled.
   void Update_Extra_Params();
 
+  /// While one of these lives Update_Extra_Params() waits; what the last call would have done is done at the end. For
+  /// loading many atom lines, each of which fills the grid anew.
+  class Hold {
+   public:
+    explicit Hold(ExtraValues& values) : values_(values) { ++values_.held_; }
+    ~Hold();
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+   private:
+    ExtraValues& values_;
+  };
+
  private:
+  void offerFirst(int variables);
   void offer(std::string_view names, std::string_view unit);
   template <typename Change>
   void forEachFittingRow(std::string_view unit, const Change& change);
@@ -35,6 +49,8 @@ class ExtraValues {
   GridState& state_;
   const platform::ListBox& lstVariables_;
   ErrorSink& errors_;
+  int held_ = 0;
+  int putOff_ = 0;  // the number of variables there were at the last call that waits
 };
 
 }  // namespace mavCycEd

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <initializer_list>
 #include <optional>
+#include <utility>
 
 #include "qt/CellEditors.h"
 #include "qt/FocusRules.h"
@@ -85,12 +86,35 @@ void CellEdit::onTyped() {
   if (!isOpen()) return;
   touched_ = true;
   const QPointer<CellEdit> self(this);
+  ++telling_;
+  tellTyped();
+  if (self) endTelling();
+}
+
+void CellEdit::tellTyped() {
+  const QPointer<CellEdit> self(this);
   view_.chooseRow(row());
   if (!self || !isOpen()) return;
   const QString line = keepOnOneLine(lineOf(*editor_));
   const int typedRow = row();
   model_.setCell(ValueListModel::valueColumn, typedRow, fromQt(line));
   emit typed(typedRow);
+}
+
+// From here the way leads back into the editors, so they may go when the event that they answer is over.
+void CellEdit::endTelling() {
+  if (--telling_ > 0) return;
+  for (const QPointer<QWidget>& editor : std::exchange(closed_, {})) {
+    if (editor) editor->deleteLater();
+  }
+}
+
+void CellEdit::release(QWidget& editor) {
+  if (telling_ > 0) {
+    closed_.push_back(&editor);
+  } else {
+    editor.deleteLater();
+  }
 }
 
 void CellEdit::onPicked(int item) {

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <string>
+#include <vector>
 
 namespace mavCycEd::qt {
 
@@ -42,6 +43,9 @@ class CellEdit : public QObject {
   void end();
   /// Closes the editor and tells nothing: its row goes.
   void drop();
+  /// Destroys an editor that has been closed, but not while it is telling what is typed: a message box that this leads
+  /// to has an event loop of its own, in which the editor would go too early.
+  void release(QWidget& editor);
 
  signals:
   /// The user typed; the row's value has been written.
@@ -62,6 +66,8 @@ class CellEdit : public QObject {
   bool isOurs(const QKeyEvent& key) const;
   bool hasList() const;
   void onTyped();
+  void tellTyped();
+  void endTelling();
   void onPicked(int item);
   void giveUp();
   void leave(Step step);
@@ -77,6 +83,8 @@ class CellEdit : public QObject {
   bool touched_ = false;          // the user typed something
   QPersistentModelIndex untold_;  // an edit whose end is told as soon as the mouse button is up
   QTimer mouseIsUp_;
+  int telling_ = 0;                        // what was typed is being told
+  std::vector<QPointer<QWidget>> closed_;  // editors that were closed meanwhile
 };
 
 }  // namespace mavCycEd::qt

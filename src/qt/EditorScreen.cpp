@@ -56,6 +56,7 @@ void EditorScreen::outliveControl() {
   help_.close();
   content_.get_deleter().later = true;
   content_->setParent(nullptr);
+  variableDialogs_.outliveControl();
 }
 
 ControlScreen EditorScreen::controls() {

@@ -31,8 +31,8 @@ class EditorScreen {
   /// to an operator who works in the grid already.
   EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer);
 
-  /// The control goes while one of its procedures is still running: the widgets leave it, and stay until the event
-  /// that they are answering has been dealt with.
+  /// The control goes while one of its procedures is still running: the widgets leave it, the dialog's with them, and
+  /// stay until the event that they are answering has been dealt with.
   void outliveControl();
 
   ControlScreen controls();

@@ -41,6 +41,8 @@ int QtMessageBox::messageBox(platform::WindowHandle owner, std::string_view mess
       new QMessageBox(iconOf(flags), toQt(caption), toQt(text::toLf(message)), QMessageBox::Ok, over));
   box->setTextFormat(Qt::PlainText);
   showWholeTitle(*box);
+  // It goes with the control, too: nobody is left who waits for the answer.
+  if (control_) QObject::connect(control_, &QObject::destroyed, box, &QDialog::reject);
   box->setWindowModality(over != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
   box->exec();
   delete box;

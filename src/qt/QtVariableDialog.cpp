@@ -80,4 +80,14 @@ void QtVariableDialog::nameForPeople() {
   mnuSyrConstant_.widget()->setAccessibleName(inWords("Offered values"));
 }
 
+std::unique_ptr<VariableDialogScreen> QtVariableDialogs::createVariableDialog() {
+  auto dialog = std::make_unique<QtVariableDialog>(&control_, help_);
+  window_ = dialog->frmparams().widget();
+  return dialog;
+}
+
+void QtVariableDialogs::outliveControl() {
+  if (window_) window_->setParent(nullptr);
+}
+
 }  // namespace mavCycEd::qt

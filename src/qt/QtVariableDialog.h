@@ -29,7 +29,7 @@ class QtVariableDialog : public VariableDialogScreen {
   QtVariableDialog(const QtVariableDialog&) = delete;
   QtVariableDialog& operator=(const QtVariableDialog&) = delete;
 
-  platform::ModalDialog& frmparams() override { return frmparams_; }
+  QtModalDialog& frmparams() override { return frmparams_; }
   platform::Frame& fraValue() override { return fraValue_; }
   platform::TextBox& txtParamName() override { return txtParamName_; }
   platform::Frame& fraParamType() override { return fraParamType_; }
@@ -76,13 +76,16 @@ class QtVariableDialogs : public VariableDialogFactory {
  public:
   QtVariableDialogs(QWidget& control, HelpDesk& help) : control_(control), help_(help) {}
 
-  std::unique_ptr<VariableDialogScreen> createVariableDialog() override {
-    return std::make_unique<QtVariableDialog>(&control_, help_);
-  }
+  std::unique_ptr<VariableDialogScreen> createVariableDialog() override;
+
+  /// The control goes while a dialog's procedure is still running: the dialog's window leaves it, and goes when the
+  /// procedure has ended.
+  void outliveControl();
 
  private:
   QWidget& control_;
   HelpDesk& help_;
+  QPointer<ModalWindow> window_;  // of the dialog that was made last
 };
 
 }  // namespace mavCycEd::qt

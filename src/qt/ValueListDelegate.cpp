@@ -6,6 +6,7 @@
 
 #include "qt/CellEditors.h"
 #include "qt/ValueListModel.h"
+#include "qt/ValueListView.h"
 
 namespace mavCycEd::qt {
 
@@ -41,6 +42,15 @@ void ValueListDelegate::paintRow(QPainter* painter, const QStyleOptionViewItem& 
   const int margin = arrow.height() / 4;
   mark.rect = arrow.adjusted(margin, margin, -margin, -margin);
   style.drawPrimitive(QStyle::PE_IndicatorArrowDown, &mark, painter, option.widget);
+}
+
+void ValueListDelegate::destroyEditor(QWidget* editor, const QModelIndex& index) const {
+  auto* const view = qobject_cast<ValueListView*>(parent());
+  if (view != nullptr && editor != nullptr) {
+    view->cellEdit().release(*editor);
+  } else {
+    RowDelegate::destroyEditor(editor, index);
+  }
 }
 
 QWidget* ValueListDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const {

@@ -16,6 +16,7 @@ class ValueListDelegate : public RowDelegate {
   static QRect arrowRect(const QRect& cell, const QModelIndex& index);
 
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  void destroyEditor(QWidget* editor, const QModelIndex& index) const override;
   void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const override;
   /// The text reaches the editor when the edit begins, and by CellEdit.

@@ -48,17 +48,20 @@ class ctlCycEd::Implementation {
  public:
   Implementation(ctlCycEd& control, HostServices services)
       : surroundings_(std::make_shared<Surroundings>(control, std::move(services))),
-        editor_(
+        editor_(std::make_unique<EditorControl>(
             surroundings_->screen.controls(), surroundings_->platformServices(),
             [&control](const CycleEditorErrorEvent& event) { tellError(control, event); },
-            surroundings_->services.provider, surroundings_) {}
+            surroundings_->services.provider, surroundings_)) {}
+  // The editor goes first: what happens to the widgets then is told to nobody.
   ~Implementation() {
-    if (editor_.isRunning()) surroundings_->screen.outliveControl();
+    const bool running = editor_->isRunning();
+    editor_.reset();
+    if (running) surroundings_->screen.outliveControl();
   }
   Implementation(const Implementation&) = delete;
   Implementation& operator=(const Implementation&) = delete;
 
-  EditorControl& editor() { return editor_; }
+  EditorControl& editor() { return *editor_; }
   qt::HelpDesk& help() { return surroundings_->screen.help(); }
 
   /// Finishes a value that is being typed, before a call of the host's that changes what is shown or takes the cycle.
@@ -77,7 +80,7 @@ class ctlCycEd::Implementation {
   }
 
   std::shared_ptr<Surroundings> surroundings_;
-  EditorControl editor_;
+  std::unique_ptr<EditorControl> editor_;
 };
 
 ctlCycEd::ctlCycEd(QWidget* parent) : ctlCycEd(HostServices(), parent) {}

@@ -26,8 +26,11 @@ class EditorControl;
 /// declaration is ignored. No exception leaves the control and no member returns an error code: failures are told by
 /// CycleEditorError, after which the control keeps the state that it had reached.
 ///
-/// All members belong to the thread of the user interface. A window may hold several controls; they share nothing. A
-/// host that destroys the control from a slot of CycleEditorError calls deleteLater().
+/// All members belong to the thread of the user interface. A window may hold several controls; they share nothing.
+///
+/// A slot of CycleEditorError, and whatever runs while a message box or the dialog is open, may call every member and
+/// may destroy the control. SetXMLStrings is then put off until the procedure that is running has ended; of several
+/// calls the last one counts.
 class ctlCycEd : public QWidget {
   Q_OBJECT
   /// Write-only. True: further atoms of the configuration and objects of the catalogue that are marked as hidden are
