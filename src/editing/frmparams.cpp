@@ -186,7 +186,7 @@ void frmparams::OKButton_Click() {
     }
     if (!ValidatedParamsValues() || !isDefaultWithinLimits()) return;
     exchange_.resultText.clear();
-    if (screen_.optNrValue().value() && !areSettingsComplete()) return;
+    if (screen_.optNrValue().value() && (!isUnitLegal() || !areSettingsComplete())) return;
     exchange_.resultText = definition();
     exchange_.editMode = false;
     screen_.frmparams().close();
@@ -229,6 +229,17 @@ bool frmparams::ValidatedParamsValues() {
   });
 }
 
+// A unit that the catalogue offers, or that the variable had, is none that the operator mistyped.
+bool frmparams::isUnitLegal() {
+  std::string unit = screen_.cboUnit().text();
+  if (itemInComboExists(screen_.cboUnit(), unit) || unit == parseNumber(exchange_.editedText).unit) return true;
+  if (text::filterValue(unit)) return true;
+  showWarningIllegalUnit();
+  screen_.cboUnit().setText(unit);
+  constants_.cboUnit_LostFocus();
+  return false;
+}
+
 bool frmparams::isDefaultWithinLimits() {
   const std::string defaultValue = setting(DefaultRow);
   if (!text::isNumeric(defaultValue)) return true;
@@ -266,6 +277,12 @@ void frmparams::showWarningIllegalCharater2() {
   tell(std::string("The parameter name cannot contain any of the following characters:")
            .append(crLf)
            .append("\"-'&<>;,+\""));
+}
+
+void frmparams::showWarningIllegalUnit() {
+  tell(twoParagraphs("Invalid Unit:", "The unit cannot contain any of the following characters:")
+           .append(crLf)
+           .append("\"'&<>;,\""));
 }
 
 void frmparams::tell(std::string_view message) {

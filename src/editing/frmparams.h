@@ -48,10 +48,12 @@ class frmparams {
   void showHalf(bool numeric);
 
   bool ValidatedParamsValues();
+  bool isUnitLegal();
   bool isDefaultWithinLimits();
   bool areSettingsComplete();
   void showWarningIllegalCharater1();
   void showWarningIllegalCharater2();
+  void showWarningIllegalUnit();
   void tell(std::string_view message);
   std::string definition() const;
 
