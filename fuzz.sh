@@ -48,7 +48,7 @@ run_target() {
   mkdir -p "$learnt" "$findings"
   nice "$folder/bin/fuzz-$target" "$learnt" "$root/fuzz/corpus/$target" \
     -dict="$root/fuzz/dictionaries/$target.dict" -artifact_prefix="$findings/$target-" \
-    -max_total_time="$seconds" -max_len=16384 -timeout=20 -rss_limit_mb=4096 -print_final_stats=1 \
+    -max_total_time="$seconds" -len_control=20 -max_len=16384 -timeout=20 -rss_limit_mb=4096 -print_final_stats=1 \
     >"$folder/$target.log" 2>&1
 }
 

@@ -16,7 +16,8 @@ FuzzEditor::FuzzEditor(std::string_view catalogue, std::string_view configuratio
 }
 
 bool FuzzEditor::hasFailed(std::string_view procedure) const {
-  return std::ranges::find(errors, procedure, &CycleEditorErrorEvent::strProcedure) != errors.end();
+  const std::string told = std::string(procedure) + " ";
+  return std::ranges::find(errors, told, &CycleEditorErrorEvent::strProcedure) != errors.end();
 }
 
 std::string FuzzEditor::failures() const {

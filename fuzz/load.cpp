@@ -77,6 +77,21 @@ void requireHandsBack(FuzzEditor& editor, std::string_view catalogue, std::strin
   if (lasting && !fresh.hasFailed("SetXMLStrings")) requireSameCycle(editor, fresh, cycle);
 }
 
+// The operator goes on with whatever was loaded: inserts, replaces and deletes lines of each of the first few atoms.
+void work(FuzzEditor& editor) {
+  constexpr int tried = 4;
+  const bool incomplete = editor.hasFailed("FillCycle");
+  memory::MemoryScreen& screen = editor.screen();
+  for (int i = 0; i < screen.cboAtom.itemCount() && i < tried; ++i) {
+    screen.cboAtom.setIndex(i);
+    screen.cmdInset.press();
+    screen.cmdReplace.press();
+    screen.cmdDefault.press();
+    if (i % 2 == 1) screen.cmdDelete.press();
+    if (!incomplete) requireListShowsAtoms(screen.lstAtomSequence.items(), editor.control().atoms());
+  }
+}
+
 void run(std::string_view rest) {
   const std::string_view catalogue = takePart(rest);
   const std::string_view configuration = takePart(rest);
@@ -85,6 +100,8 @@ void run(std::string_view rest) {
   requireReadsAsADocument(rest, editor.platform.xml);
   editor.control().CycleChanged();
   editor.control().MacroString();
+  requireHandsBack(editor, catalogue, configuration);
+  work(editor);
   requireHandsBack(editor, catalogue, configuration);
 
   editor.control().Ignore_Hidden(true);

@@ -8,7 +8,7 @@ cd "$root"
 sources() {
   local ending names=()
   for ending in "$@"; do names+=(-o -name "*.$ending"); done
-  find src apps tests examples -type f \( "${names[@]:1}" \) -print0 | sort -z
+  find src apps tests examples fuzz -type f \( "${names[@]:1}" \) -print0 | sort -z
 }
 
 check_format() {
@@ -19,7 +19,7 @@ check_format() {
 }
 
 check_scripts() {
-  shellcheck --external-sources --source-path=SCRIPTDIR run.sh test.sh scripts/*.sh .ci/run ||
+  shellcheck --external-sources --source-path=SCRIPTDIR run.sh test.sh fuzz.sh scripts/*.sh .ci/run ||
     die "shellcheck found the above."
   say "shellcheck: no findings"
 }
