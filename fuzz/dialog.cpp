@@ -8,6 +8,7 @@
 
 #include "FuzzEditor.h"
 #include "Require.h"
+#include "catalogue/CatalogueText.h"
 #include "editing/VariableDefinition.h"
 #include "text/IllegalCharacters.h"
 #include "text/Strings.h"
@@ -109,6 +110,7 @@ class DialogRun {
   std::string definitionBy(std::string_view lines) {
     editor_.screen().variableDialogs.setUser([&](Dialog& dialog) {
       if (!loaded_.empty()) nameLoaded_ = dialog.txtParamName.text();
+      unitLoaded_ = parseNumber(loaded_).unit;
       User(dialog, lines).work();
       name_ = dialog.txtParamName.text();
       unit_ = dialog.cboUnit.text();
@@ -122,9 +124,12 @@ class DialogRun {
   /// The name stands as the dialog has let it in; neither settings nor the unit end the definition before its time.
   void requireLegal(const std::string& definition) const {
     std::string name = name_;
-    require(name == nameLoaded_ || text::filterName(name), "a name that was typed has no illegal characters");
+    const bool typed = text::trimSpaces(name) != text::trimSpaces(nameLoaded_);
+    require(!typed || text::filterName(name), "a name that was typed has no illegal characters");
     require(definition.starts_with(numeric_ ? std::string(text::trimSpaces(name_)) : name_), "it begins with the name");
     if (!numeric_) return;
+    std::string unit = unit_;
+    require(unit == unitLoaded_ || text::filterValue(unit), "a unit that was typed has no illegal characters");
     const auto fields = text::split(definition, ';');
     require(fields.size() == 4, "a number has four fields");
     for (std::size_t i = 1; i < fields.size(); ++i) {
@@ -136,7 +141,8 @@ class DialogRun {
 
   /// The definition that came out comes out again when it is loaded and nothing is done.
   void requireComesBack(const std::string& definition) {
-    if (name_.find('(') != std::string::npos) return;    // a parenthesis in a name is taken for the unit's
+    if (name_.find('(') != std::string::npos) return;  // a parenthesis in a name is taken for the unit's
+    if (numeric_ && isObjectName(text::split(definition, ';')[1])) return;  // its default is taken for a type
     if (!numeric_ && definition.ends_with(';')) return;  // an object of no type is nothing that the dialog knows
     editor_.screen().variableDialogs.setUser([&](Dialog& dialog) {
       requireShows(dialog, definition);
@@ -183,6 +189,7 @@ class DialogRun {
   FuzzEditor editor_;
   std::string loaded_;      // the entry that is edited; empty: a new one
   std::string nameLoaded_;  // how the dialog shows its name
+  std::string unitLoaded_;  // its unit
   std::string name_;
   std::string unit_;
   bool numeric_ = true;

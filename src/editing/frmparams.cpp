@@ -229,11 +229,13 @@ bool frmparams::ValidatedParamsValues() {
   });
 }
 
-// A unit that the catalogue offers, or that the variable had, is none that the operator mistyped.
+// The unit ends at the first ")" of a definition. One that the catalogue offers, or that the variable had, is none that
+// the operator mistyped.
 bool frmparams::isUnitLegal() {
   std::string unit = screen_.cboUnit().text();
   if (itemInComboExists(screen_.cboUnit(), unit) || unit == parseNumber(exchange_.editedText).unit) return true;
-  if (text::filterValue(unit)) return true;
+  const bool hasEnd = std::erase(unit, ')') > 0;
+  if (text::filterValue(unit) && !hasEnd) return true;
   showWarningIllegalUnit();
   screen_.cboUnit().setText(unit);
   constants_.cboUnit_LostFocus();
@@ -282,7 +284,7 @@ void frmparams::showWarningIllegalCharater2() {
 void frmparams::showWarningIllegalUnit() {
   tell(twoParagraphs("Invalid Unit:", "The unit cannot contain any of the following characters:")
            .append(crLf)
-           .append("\"'&<>;,\""));
+           .append("\"'&<>;,)\""));
 }
 
 void frmparams::tell(std::string_view message) {
