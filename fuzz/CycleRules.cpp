@@ -109,8 +109,11 @@ bool isLastingCycle(const HeldCycle& held) {
   if (description.find('&') != std::string::npos || description.find("//") != std::string::npos) return false;
   if (text::toXmlText(description) != text::toLf(description)) return false;
   for (const cAtom& atom : held.atoms) {
-    const std::string parameters = reloadedParameters(atom);
-    if (!parameters.empty() && parameters.find(';') >= parameters.find('\r')) return false;
+    const std::string parameters = textOf(atom.AtomParameters());
+    for (const std::string_view line : text::split(parameters, '\r')) {
+      const auto fields = text::split(line, ';');
+      if (fields.size() > 2 || (fields.size() == 2 && StripParamName(fields[0]).empty())) return false;
+    }
   }
   return true;
 }

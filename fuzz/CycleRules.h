@@ -25,7 +25,7 @@ void requireReadsAsADocument(std::string_view text, platform::XmlDocumentFactory
 bool requirePlainAsFromADocument(const HeldCycle& held, platform::XmlDocumentFactory& xmlDocuments);
 
 /// Whether a cycle that can be written at once has nothing that changes when it is loaded again: a name or a
-/// description that loses something, a first parameter without a name.
+/// description that loses something, a parameter without a name or with several values.
 bool isLastingCycle(const HeldCycle& held);
 
 /// The parameter text as it is loaded again: one line for every value.
