@@ -10,7 +10,8 @@ Usage: ./test.sh [--sanitize] [-- CTEST ARGUMENTS]
 
 Installs the missing packages of packages.txt, builds everything in build/ and runs all tests without a display.
 
-  --sanitize           the same tests in build-sanitize/, under AddressSanitizer and UndefinedBehaviorSanitizer
+  --sanitize           the same tests in build-sanitize/, under AddressSanitizer and UndefinedBehaviorSanitizer; then
+                       ./fuzz.sh --smoke, unless there are CTEST ARGUMENTS
   --format             no tests: checks the layout of the sources with clang-format
   --lint               no tests: --format, then clang-tidy over the sources and shellcheck over the scripts
   -- CTEST ARGUMENTS   more arguments for ctest, as in ./test.sh -- -R structure
@@ -33,4 +34,6 @@ done
 install_packages build run help
 build "$preset"
 cd "$root"
-exec ctest --preset "$preset" "$@"
+if [[ "$preset" != sanitize ]] || (($# > 0)); then exec ctest --preset "$preset" "$@"; fi
+ctest --preset "$preset"
+exec ./fuzz.sh --smoke

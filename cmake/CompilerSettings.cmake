@@ -12,6 +12,13 @@ if(MAVCYCED_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+# What a fuzz target is made of tells which ways it takes. The library's checks of indices are on.
+if(MAVCYCED_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g)
+  add_compile_definitions(_GLIBCXX_ASSERTIONS)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
 # Builds one of our targets with the project's settings. Private: nothing of it reaches those who link the target.
 function(mavcyced_settings target)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:mavCycEd_compiler_settings>)

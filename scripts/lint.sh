@@ -8,7 +8,7 @@ cd "$root"
 sources() {
   local ending names=()
   for ending in "$@"; do names+=(-o -name "*.$ending"); done
-  find src apps tests examples bench -type f \( "${names[@]:1}" \) -print0 | sort -z
+  find src apps tests examples bench fuzz -type f \( "${names[@]:1}" \) -print0 | sort -z
 }
 
 check_format() {

@@ -35,11 +35,12 @@ struct Progress {
 
 xmlParserCtxt& parserOf(void* context) { return *static_cast<xmlParserCtxt*>(context); }
 
-// Runs what the parser called; the parser itself cannot be left by an exception.
+// Runs what the parser called; the parser itself cannot be left by an exception. Behind an error it still calls for
+// texts, although it no longer does for the elements around them.
 template <typename Body>
 void run(void* context, const Body& body) noexcept {
   Progress& progress = *static_cast<Progress*>(parserOf(context)._private);
-  if (progress.failure) return;
+  if (progress.failure || parserOf(context).disableSAX != 0) return;
   try {
     body(progress);
   } catch (...) {

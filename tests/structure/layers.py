@@ -74,7 +74,7 @@ class Check:
         self.rooms = {}  # room -> room -> the first include that leads there, as "file:line"
 
     def run(self):
-        for folder in ("src", "apps", "tests", "bench", "examples"):
+        for folder in ("src", "apps", "tests", "bench", "fuzz", "examples"):
             for file in sorted((self.tree / folder).rglob("*")):
                 if file.suffix in (".h", ".cpp") and file.is_file():
                     self.check_file(file)

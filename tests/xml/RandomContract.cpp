@@ -210,6 +210,29 @@ TEST_P(XmlDocumentContract, ALineEndInTwoPiecesIsHeardAsOne) {
   }
 }
 
+/// Notes the text that is heard while no element is open.
+class TextOutside : public platform::XmlContent {
+ public:
+  void startElement(std::string_view, const std::vector<platform::XmlAttribute>&) override { ++depth_; }
+  void text(std::string_view piece) override {
+    if (depth_ == 0) outside += piece;
+  }
+  void endElement() override { --depth_; }
+
+  std::string outside;
+
+ private:
+  int depth_ = 0;
+};
+
+TEST_P(XmlDocumentContract, NoTextIsHeardOutsideOfElements) {
+  for (const char* text : {"<?xml version=x?><a>text</a>", "<?xml?><a><b/>text", "<a/>text", "text<a/>"}) {
+    TextOutside heard;
+    EXPECT_FALSE(factory().readDocument(text, heard)) << text;
+    EXPECT_EQ(heard.outside, "") << text;
+  }
+}
+
 // A document with a scrap put in somewhere, or with a piece cut out of it.
 std::string spoiled(std::string text, const std::string& scrap) {
   const auto position = [&text] { return *rc::gen::inRange<std::size_t>(0, text.size() + 1); };
