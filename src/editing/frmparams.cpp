@@ -124,6 +124,13 @@ void frmparams::FillStandardUnits() {
   });
 }
 
+bool frmparams::itemInComboExists(const platform::ComboBox& combo, std::string_view text) {
+  for (int i = 0; i < combo.itemCount(); ++i) {
+    if (combo.itemText(i) == text) return true;
+  }
+  return false;
+}
+
 void frmparams::fillSettings(std::string_view defaultValue, std::string_view lower, std::string_view upper) {
   platform::ValueListActiveX& grid = screen_.grdParamStnd();
   resetGrid(grid);

@@ -36,6 +36,7 @@ class frmparams {
   void disconnect();
   void setCaptions();
   void FillStandardUnits();
+  static bool itemInComboExists(const platform::ComboBox& combo, std::string_view text);
   void fillSettings(std::string_view defaultValue, std::string_view lower, std::string_view upper);
   std::string setting(int row) const { return screen_.grdParamStnd().cellText(1, row); }
 
