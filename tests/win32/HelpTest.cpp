@@ -58,6 +58,8 @@ TEST(Win32Help, F1ShowsTheHelpOverTheVariableDialog) {
   HostWindow host;
   TestEditor editor(host.handle(), thisProgram());
   editor.load();
+  editor.windows().cboAtom.setText("MIX");
+  settle();
   inDialog = &editor;
   SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR timer, DWORD) {
     Win32VariableDialog* const dialog = inDialog->editor().screen().variableDialogs().open();
