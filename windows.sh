@@ -34,6 +34,7 @@ $build_only || sections+=(wine)
 install_packages "${sections[@]}"
 build_windows_libraries
 build windows
+if [[ -x "$root/scripts/help.sh" ]]; then "$root/scripts/help.sh" "$root/build/windows/bin"; fi
 if $build_only; then
   say "Built: $root/build/windows/bin"
   exit

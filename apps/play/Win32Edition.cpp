@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "Output.h"
+#include "OwnDesktop.h"
 #include "Win32Driver.h"
 #include "memory/MemoryServices.h"
 #include "memory/MemoryTimer.h"
@@ -11,6 +12,7 @@
 namespace mavCycEd::play {
 
 int withWin32Driver(const std::string& now, const std::function<int(ControlDriver&)>& body) {
+  moveToOwnDesktop();  // nobody has to see it
   const auto timer = std::make_shared<memory::MemoryTimer>();
   win32::EditorServices services;
   services.messageBox =

@@ -161,6 +161,11 @@ void EditorScreen::nameForPeople() {
   controls_.cmdDel.setAccessibleName(L"Delete variable");
 }
 
+void EditorScreen::setHelp(const std::function<void(HWND)>& help) {
+  panel_.setHelp(help);
+  variableDialogs_.setHelp(help);
+}
+
 bool EditorScreen::translate(MSG& message) const {
   return window() != nullptr && IsDialogMessageW(window(), &message) != FALSE;
 }

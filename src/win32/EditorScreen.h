@@ -82,6 +82,9 @@ class EditorScreen {
   /// What is called before the variable dialog keeps the host's window waiting (true) and afterwards (false).
   void setModality(std::function<void(bool)> modality) { variableDialogs_.setModality(std::move(modality)); }
 
+  /// What F1 does in the editor and in its variable dialog.
+  void setHelp(const std::function<void(HWND)>& help);
+
   ControlScreen controls();
   EditorControls& windows() { return controls_; }
   const Win32VariableDialogs& variableDialogs() const { return variableDialogs_; }

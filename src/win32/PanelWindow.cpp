@@ -48,6 +48,12 @@ std::optional<LRESULT> PanelWindow::onMessage(UINT message, WPARAM wParam, LPARA
     case WM_SETTINGCHANGE:
       if (scalingChanged_) scalingChanged_();
       return 0;
+    case WM_HELP: {
+      if (!help_) return std::nullopt;
+      const auto help = help_;  // the window may go meanwhile
+      help(handle());
+      return TRUE;
+    }
     default: return std::nullopt;
   }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 #include "win32/NativeWindow.h"
 
@@ -17,6 +18,8 @@ class PanelWindow : public NativeWindow {
   /// What happens when the window's scaling has changed.
   void setScalingChanged(std::function<void()> changed) { scalingChanged_ = std::move(changed); }
   void layOut();
+  /// What F1 does in this window and in those on it.
+  void setHelp(std::function<void(HWND)> help) { help_ = std::move(help); }
 
   void setColors(COLORREF background, COLORREF text);
 
@@ -29,6 +32,7 @@ class PanelWindow : public NativeWindow {
 
   std::function<void()> layOut_;
   std::function<void()> scalingChanged_;
+  std::function<void(HWND)> help_;
   bool hasColors_ = false;
   COLORREF background_ = 0;
   COLORREF text_ = 0;

@@ -10,6 +10,8 @@ EditorServices completed(EditorServices services, EditorScreen& screen) {
     services.messageBox = std::make_shared<Win32MessageBox>([&screen] { return screen.window(); });
   }
   if (!services.clock) services.clock = std::make_shared<Win32Clock>();
+  if (services.helpFile.empty()) services.helpFile = ownHelpFile();
+  if (!services.helpViewer) services.helpViewer = showInSystemHelp;
   return services;
 }
 
@@ -18,7 +20,11 @@ EditorServices completed(EditorServices services, EditorScreen& screen) {
 Surroundings::Surroundings(HWND parent, std::unique_ptr<platform::XmlDocumentFactory> documents, EditorServices given)
     : xmlDocuments(std::move(documents)),
       screen(parent, given.gridTimer),
-      services(completed(std::move(given), screen)) {}
+      services(completed(std::move(given), screen)) {
+  screen.setHelp([file = services.helpFile, viewer = services.helpViewer, messageBox = services.messageBox](HWND over) {
+    showHelp(over, file, viewer, *messageBox);
+  });
+}
 
 Win32Editor::Win32Editor(HWND parent, std::unique_ptr<platform::XmlDocumentFactory> xmlDocuments,
                          CycleEditorErrorHandler onError, EditorServices services)

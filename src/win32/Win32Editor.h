@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "catalogue/AtomListProvider.h"
 #include "control/EditorControl.h"
 #include "win32/EditorScreen.h"
+#include "win32/Help.h"
 #include "win32/Notify.h"
 #include "win32/Services.h"
 
@@ -16,6 +18,8 @@ struct EditorServices {
   std::shared_ptr<platform::MessageBox> messageBox = nullptr;
   std::shared_ptr<platform::Clock> clock = nullptr;
   std::shared_ptr<platform::Timer> gridTimer = nullptr;
+  std::wstring helpFile = {};
+  HelpViewer helpViewer = nullptr;
 };
 
 /// What the editor works on. It lives until the editor is gone and its last procedure has ended.

@@ -130,6 +130,7 @@ std::unique_ptr<VariableDialogScreen> Win32VariableDialogs::createVariableDialog
   const ThemedScope themed;
   auto dialog = std::make_unique<Win32VariableDialog>(control_(), last_);
   dialog->frmparams().window().setModality(modality_);
+  dialog->frmparams().window().setHelp(help_);
   return dialog;
 }
 

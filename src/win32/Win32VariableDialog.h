@@ -87,6 +87,8 @@ class Win32VariableDialogs : public VariableDialogFactory {
 
   /// What each dialog calls before it keeps its owner waiting (true) and afterwards (false).
   void setModality(std::function<void(bool)> modality) { modality_ = std::move(modality); }
+  /// What F1 does in each dialog.
+  void setHelp(std::function<void(HWND)> help) { help_ = std::move(help); }
   /// The dialog that was made last and is shown; nullptr when none is.
   Win32VariableDialog* open() const;
 
@@ -95,6 +97,7 @@ class Win32VariableDialogs : public VariableDialogFactory {
  private:
   std::function<HWND()> control_;
   std::function<void(bool)> modality_;
+  std::function<void(HWND)> help_;
   std::shared_ptr<Win32VariableDialog*> last_ = std::make_shared<Win32VariableDialog*>(nullptr);
 };
 

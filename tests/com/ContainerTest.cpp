@@ -5,9 +5,13 @@
 
 #include "ControlSite.h"
 #include "Library.h"
+#include "OwnDesktop.h"
 
 namespace mavCycEd::test {
 namespace {
+
+// For all tests of this program.
+const bool isAlone = play::moveToOwnDesktop();
 
 /// The control in a container's window.
 class ContainerTest : public ComTest {

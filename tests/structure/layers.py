@@ -36,7 +36,7 @@ LIBRARIES = {
     "libxml2": re.compile(r"libxml/\w+\.h"),
     "qt": re.compile(r"Q\w+(/\w+)?"),
     "com": re.compile(r"(objsafe|ocidl|ole2|oleauto|olectl|initguid|mavCycEdTypes)\.h"),
-    "win32": re.compile(r"(windows|windowsx|commctrl|oleacc|oleauto|uxtheme|vssym32)\.h"),
+    "win32": re.compile(r"(windows|windowsx|commctrl|oleacc|oleauto|shellapi|uxtheme|vssym32)\.h"),
 }
 
 STANDARD_HEADERS = frozenset("""

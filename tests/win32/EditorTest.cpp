@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "OwnDesktop.h"
 #include "TestWindow.h"
 #include "win32/Text.h"
 // needs windows.h
@@ -11,6 +12,9 @@
 
 namespace mavCycEd::win32::test {
 namespace {
+
+// For all tests of this program.
+const bool isAlone = play::moveToOwnDesktop();
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "libxml2/Libxml2DocumentFactory.h"
@@ -55,8 +56,9 @@ class HostWindow : public PanelWindow {
 /// An editor in a host's window.
 class TestEditor {
  public:
-  explicit TestEditor(HWND parent)
-      : editor_(std::make_unique<Win32Editor>(parent, std::make_unique<libxml2::Libxml2DocumentFactory>(), onError(),
+  explicit TestEditor(HWND parent, std::wstring help = {})
+      : helpFile(std::move(help)),
+        editor_(std::make_unique<Win32Editor>(parent, std::make_unique<libxml2::Libxml2DocumentFactory>(), onError(),
                                               services())) {
     constexpr RECT place{0, 0, 880, 560};
     editor_->screen().setPlace(place);
@@ -72,6 +74,13 @@ class TestEditor {
   std::vector<std::string> messages;
   std::vector<std::string> errors;
   std::function<void()> onMessage;
+  struct HelpShown {
+    HWND over;
+    std::wstring file;
+  };
+  std::vector<HelpShown> helpShown;
+  std::wstring helpFile;
+  bool hasHelpViewer = true;
 
  private:
   CycleEditorErrorHandler onError() {
@@ -84,6 +93,11 @@ class TestEditor {
           messages.emplace_back(message);
           if (onMessage) onMessage();
         });
+    services.helpFile = helpFile;
+    services.helpViewer = [this](HWND over, const std::wstring& file) {
+      helpShown.push_back({over, file});
+      return hasHelpViewer;
+    };
     return services;
   }
 
