@@ -1,5 +1,7 @@
 #include "win32/Win32TextBox.h"
 
+#include <string>
+
 #include "text/LineEnds.h"
 #include "win32/Text.h"
 
@@ -22,7 +24,7 @@ Win32TextBox::Win32TextBox(Lines lines, HWND parent, Win32Frame* frame)
 }
 
 void Win32TextBox::setText(std::string_view text) {
-  text_ = text::toCrLf(text);
+  text_ = lines_ == Lines::One ? std::string(text) : text::toCrLf(text);
   settingText_ = true;
   NativeWindow::setText(toWide(text_));
   settingText_ = false;
@@ -51,7 +53,8 @@ std::optional<LRESULT> Win32TextBox::onMessage(UINT message, WPARAM wParam, LPAR
 
 void Win32TextBox::onCommand(int notification) {
   if (notification != EN_CHANGE || settingText_) return;
-  text_ = text::toCrLf(fromWide(textOf(handle())));
+  const std::string shown = fromWide(textOf(handle()));
+  text_ = lines_ == Lines::One ? text::onOneLine(shown) : text::toCrLf(shown);
   post(0);
 }
 
