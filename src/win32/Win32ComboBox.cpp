@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/RunTimeError.h"
+#include "text/LineEnds.h"
 #include "win32/Dpi.h"
 #include "win32/Text.h"
 
@@ -116,7 +117,7 @@ void Win32ComboBox::onCommand(int notification) {
       break;
     case CBN_EDITCHANGE:
       if (showing_) return;
-      text_ = fromWide(textOf(handle()));
+      text_ = text::onOneLine(fromWide(textOf(handle())));
       index_ = indexOf(text_);
       break;
     case CBN_KILLFOCUS: post(MaybeLeft); break;
