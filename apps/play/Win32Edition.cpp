@@ -4,8 +4,8 @@
 #include <memory>
 
 #include "Output.h"
-#include "OwnDesktop.h"
 #include "Win32Driver.h"
+#include "Win32OwnDesktop.h"
 #include "memory/MemoryServices.h"
 #include "memory/MemoryTimer.h"
 

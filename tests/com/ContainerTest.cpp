@@ -5,7 +5,7 @@
 
 #include "ControlSite.h"
 #include "Library.h"
-#include "OwnDesktop.h"
+#include "Win32OwnDesktop.h"
 
 namespace mavCycEd::test {
 namespace {

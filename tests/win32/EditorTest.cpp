@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "OwnDesktop.h"
 #include "TestWindow.h"
+#include "Win32OwnDesktop.h"
 #include "win32/Text.h"
 // needs windows.h
 #include <objbase.h>
