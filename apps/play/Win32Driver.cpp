@@ -335,7 +335,9 @@ ComboView Win32Driver::combo(std::string_view name) const {
 TextBoxView Win32Driver::textBox(std::string_view name) const {
   auto& control = controls_.see<Win32TextBox>(name);
   const bool enabled = IsWindowEnabled(control.handle()) != FALSE && IsWindowVisible(control.handle()) != FALSE;
-  return {text::toCrLf(fromWide(textOf(control.handle()))), enabled};
+  const std::string shown = fromWide(textOf(control.handle()));
+  const bool severalLines = (GetWindowLongW(control.handle(), GWL_STYLE) & ES_MULTILINE) != 0;
+  return {severalLines ? text::toCrLf(shown) : shown, enabled};
 }
 
 FrameView Win32Driver::frame(std::string_view name) const {

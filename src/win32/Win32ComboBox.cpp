@@ -105,6 +105,13 @@ std::optional<LRESULT> Win32ComboBox::onMessage(UINT message, WPARAM wParam, LPA
   return std::nullopt;
 }
 
+// What a paste brings along stands on one line.
+void Win32ComboBox::takeTyped(const std::string& typed) {
+  text_ = text::onOneLine(typed);
+  index_ = indexOf(text_);
+  if (text_ != typed) showNow();
+}
+
 void Win32ComboBox::onCommand(int notification) {
   switch (notification) {
     case CBN_SELENDOK:
@@ -117,8 +124,7 @@ void Win32ComboBox::onCommand(int notification) {
       break;
     case CBN_EDITCHANGE:
       if (showing_) return;
-      text_ = text::onOneLine(fromWide(textOf(handle())));
-      index_ = indexOf(text_);
+      takeTyped(fromWide(textOf(handle())));
       break;
     case CBN_KILLFOCUS: post(MaybeLeft); break;
     default: break;

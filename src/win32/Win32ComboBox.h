@@ -44,6 +44,7 @@ class Win32ComboBox : public platform::ComboBox, public NativeWindow {
   int indexOf(std::string_view text) const;
   void show(int index, std::string text);
   void showNow();
+  void takeTyped(const std::string& typed);
   void fitList();
 
   const CommandGate& gate_;

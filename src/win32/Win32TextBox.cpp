@@ -55,6 +55,12 @@ void Win32TextBox::onCommand(int notification) {
   if (notification != EN_CHANGE || settingText_) return;
   const std::string shown = fromWide(textOf(handle()));
   text_ = lines_ == Lines::One ? text::onOneLine(shown) : text::toCrLf(shown);
+  if (lines_ == Lines::One && text_ != shown) {
+    settingText_ = true;
+    NativeWindow::setText(toWide(text_));
+    settingText_ = false;
+    send(EM_SETSEL, text_.size(), static_cast<LPARAM>(text_.size()));
+  }
   post(0);
 }
 
