@@ -106,7 +106,12 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
     guarded(errors_, "Ignore_Hidden", [&] { provider_->setIgnoreHidden(booNewValue); });
   }
 
-  bool CycleChanged() { return handBack_.CycleChanged(); }
+  bool CycleChanged() {
+    const bool changed = handBack_.CycleChanged();
+    // A procedure that is at work has not done with the cycle yet: the answer is good for this moment only.
+    if (running_ > 1) cycle_.differs.reset();
+    return changed;
+  }
   std::string RetrieveCycle() { return handBack_.RetrieveCycle(); }
 
   void ResetCycle(std::string_view strCycle) {

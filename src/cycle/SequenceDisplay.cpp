@@ -76,6 +76,7 @@ void SequenceDisplay::rebuildWithout(int index, std::string_view name) {
 }
 
 void SequenceDisplay::append() {
+  if (count() + 1 != atoms_.Count()) return rebuild();
   const std::string& name = nameAt(count());
   indents_.push_back(indentOf(name, currentIndent_));
   currentIndent_ = indentBehindLine(name, indents_.back());

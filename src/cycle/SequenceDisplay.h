@@ -27,7 +27,8 @@ class SequenceDisplay : public platform::ListLines {
   void rebuildWith(int index);
   /// As rebuild(), after the atom line at `index`, whose name was `name`, was taken out.
   void rebuildWithout(int index, std::string_view name);
-  /// There is one more atom line at the end: it is shown at the current indent, the others stay as they are.
+  /// There is one more atom line at the end: it is shown at the current indent, the others stay as they are. Where the
+  /// lines did not follow the atom lines before, as after a load that failed, this is a rebuild().
   void append();
   /// The atom line at `index` was replaced: it is shown at an indent of 1 until the next rebuild, the others stay.
   void replace(int index);

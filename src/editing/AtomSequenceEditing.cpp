@@ -73,7 +73,8 @@ void AtomSequenceEditing::insertBehind(int position, std::string name, std::stri
 void AtomSequenceEditing::append(std::string name, std::string parameters) {
   cycle_.atoms.Add(std::move(name), {}, {}, std::move(parameters));
   cycle_.display.append();
-  if (cycle_.display.count() == 1) {
+  const int shown = screen_.lstAtomSequence.itemCount();
+  if (shown == 0 || shown + 1 != cycle_.display.count()) {
     screen_.lstAtomSequence.showLines(cycle_.display);
   } else {
     screen_.lstAtomSequence.lineAdded();

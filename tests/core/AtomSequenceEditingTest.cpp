@@ -333,6 +333,18 @@ TEST_F(AtomSequenceEditingTest, InsertedValuesAreShownWhenTheLineIsSelected) {
 }
 
 /// A list that fails when it is asked to change a line.
+TEST(AtomSequenceEditingBehindAFailure, AnInsertShowsWhatWasReadBeforeIt) {
+  test::TestEditor editor;
+  editor.load(test::catalogueOf({"A", "B"}),
+              "<CYCLE><VARIABLES/><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>A</ATOMNAME><PARAMETERS/></ATOM><ATOM/></ATOMS>"
+              "</ATOMSEQUENCE></CYCLE>");
+  EXPECT_THAT(editor.lines(), ::testing::IsEmpty());
+  editor.screen().cboAtom.setText("B");
+  editor.screen().cmdInset.press();
+  EXPECT_THAT(editor.lines(), ElementsAre("01 A", "02 B"));
+  EXPECT_THAT(editor.atomNames(), ElementsAre("A", "B"));
+}
+
 class BrokenList : public memory::MemoryListBox {
  public:
   BrokenList() : MemoryListBox(nullptr) {}

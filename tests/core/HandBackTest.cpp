@@ -56,6 +56,24 @@ class HandBackTest : public ::testing::Test {
   test::TestEditor editor_;
 };
 
+TEST_F(HandBackTest, AnAnswerWhileTheDialogIsOpenDoesNotHideWhatTheDialogAdds) {
+  load(version03());
+  editor_.screen().cboAtom.setIndex(0);
+  editor_.screen().variableDialogs.setUser([this](memory::MemoryVariableDialogControls& dialog) {
+    editor_.control().CycleChanged();
+    dialog.txtParamName.replace("V");
+    dialog.grdParamStnd.type(1, "1");
+    dialog.grdParamStnd.type(2, "0");
+    dialog.grdParamStnd.type(3, "2");
+    dialog.OKButton.press();
+  });
+  EXPECT_THAT(retrieve(), HasSubstr("<VARIABLES/>"));
+  EXPECT_FALSE(changed());
+  editor_.screen().cmdIns.press();
+  EXPECT_EQ(editor_.screen().lstVariables.itemCount(), 1);
+  EXPECT_TRUE(changed());
+}
+
 TEST_F(HandBackTest, BeforeAnythingIsLoadedThereIsNoCycleAndNoChange) {
   EXPECT_EQ(retrieve(), "");
   EXPECT_FALSE(changed());
