@@ -61,6 +61,7 @@ TEST_F(Timer, SwitchesItselfOff) {
   }});
   timer.setInterval(1);
   timer.setEnabled(true);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return ticks > 0; }));
   QTest::qWait(30);
   EXPECT_EQ(ticks, 1);
 }
