@@ -1,6 +1,5 @@
 #include "memory/MemoryComboBox.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -12,6 +11,7 @@ namespace mavCycEd::memory {
 
 void MemoryComboBox::assign(std::vector<std::string> items) {
   items_ = std::move(items);
+  places_.forget();
   index_ = -1;
   text_.clear();
 }
@@ -35,8 +35,7 @@ void MemoryComboBox::setText(std::string_view text) {
 void MemoryComboBox::type(std::string_view text) { show(text::onOneLine(text)); }
 
 void MemoryComboBox::show(std::string_view text) {
-  const auto found = std::ranges::find(items_, text);
-  index_ = found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
+  index_ = places_.of(text, items_);
   text_ = text;
 }
 

@@ -6,6 +6,7 @@
 
 #include "memory/Control.h"
 #include "platform/ComboBox.h"
+#include "text/FirstIndex.h"
 
 namespace mavCycEd::memory {
 
@@ -36,6 +37,7 @@ class MemoryComboBox : public platform::ComboBox, public Control {
 
   platform::ComboBoxEvents events_;
   std::vector<std::string> items_;
+  text::FirstIndex places_;
   int index_ = -1;
   std::string text_;
 };

@@ -16,6 +16,7 @@ std::size_t TextListModel::checked(int index) const {
 void TextListModel::assign(std::vector<std::string> items) {
   beginResetModel();
   items_ = std::move(items);
+  places_.forget();
   lines_ = nullptr;
   endResetModel();
 }
@@ -23,6 +24,7 @@ void TextListModel::assign(std::vector<std::string> items) {
 void TextListModel::showLines(const platform::ListLines& lines) {
   beginResetModel();
   items_.clear();
+  places_.forget();
   lines_ = &lines;
   lineCount_ = lines.count();
   endResetModel();
@@ -49,11 +51,13 @@ void TextListModel::remove(int index) {
   const std::size_t at = checked(index);
   beginRemoveRows({}, index, index);
   items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(at));
+  places_.forget();
   endRemoveRows();
 }
 
 void TextListModel::setText(int index, std::string_view text) {
   items_[checked(index)] = text;
+  places_.forget();
   tellChange(index);
 }
 
@@ -74,11 +78,6 @@ std::string TextListModel::longest() const {
   }
   const auto found = std::ranges::max_element(items_, {}, &std::string::size);
   return found == items_.end() ? std::string() : *found;
-}
-
-int TextListModel::indexOf(std::string_view text) const {
-  const auto found = std::ranges::find(items_, text);
-  return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
 }
 
 int TextListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count(); }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/ListLines.h"
+#include "text/FirstIndex.h"
 
 namespace mavCycEd::qt {
 
@@ -39,7 +40,7 @@ class TextListModel : public QAbstractListModel {
   /// The item that needs the most room, as far as its length tells; empty when there is no item.
   std::string longest() const;
   /// The first item of exactly this text, -1 when there is none.
-  int indexOf(std::string_view text) const;
+  int indexOf(std::string_view text) { return places_.of(text, items_); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
@@ -51,6 +52,7 @@ class TextListModel : public QAbstractListModel {
   void tellChange(int index);
 
   std::vector<std::string> items_;
+  text::FirstIndex places_;
   const platform::ListLines* lines_ = nullptr;  // null: the items are its own
   int lineCount_ = 0;
 };

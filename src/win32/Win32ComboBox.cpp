@@ -26,6 +26,7 @@ Win32ComboBox::Win32ComboBox(const CommandGate& gate, Mode mode, HWND parent, Wi
 
 void Win32ComboBox::assign(std::vector<std::string> items) {
   items_ = std::move(items);
+  places_.forget();
   send(WM_SETREDRAW, FALSE);
   send(CB_RESETCONTENT);
   for (const std::string& item : items_) send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(toWide(item).c_str()));
@@ -45,18 +46,13 @@ std::string Win32ComboBox::itemText(int index) const {
   return items_[static_cast<std::size_t>(index)];
 }
 
-int Win32ComboBox::indexOf(std::string_view text) const {
-  const auto found = std::ranges::find(items_, text);
-  return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
-}
-
 void Win32ComboBox::setIndex(int index) {
   show(index, index == -1 ? std::string() : itemText(index));
   tell(events_.Click);
 }
 
 void Win32ComboBox::setText(std::string_view text) {
-  show(indexOf(text), std::string(text));
+  show(places_.of(text, items_), std::string(text));
   tell(events_.Click);
 }
 
@@ -108,7 +104,7 @@ std::optional<LRESULT> Win32ComboBox::onMessage(UINT message, WPARAM wParam, LPA
 // What a paste brings along stands on one line.
 void Win32ComboBox::takeTyped(const std::string& typed) {
   text_ = text::onOneLine(typed);
-  index_ = indexOf(text_);
+  index_ = places_.of(text_, items_);
   if (text_ != typed) showNow();
 }
 

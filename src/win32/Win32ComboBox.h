@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/ComboBox.h"
+#include "text/FirstIndex.h"
 #include "win32/CommandGate.h"
 #include "win32/NativeWindow.h"
 
@@ -41,7 +42,6 @@ class Win32ComboBox : public platform::ComboBox, public NativeWindow {
 
  private:
   enum Posted { Picked, MaybeLeft };
-  int indexOf(std::string_view text) const;
   void show(int index, std::string text);
   void showNow();
   void takeTyped(const std::string& typed);
@@ -51,6 +51,7 @@ class Win32ComboBox : public platform::ComboBox, public NativeWindow {
   Mode mode_;
   platform::ComboBoxEvents events_;
   std::vector<std::string> items_;
+  text::FirstIndex places_;
   int index_ = -1;
   std::string text_;
   bool showing_ = false;

@@ -105,6 +105,8 @@ TEST_P(ComboBox, NewItemsLeaveSelectionAndTextAlone) {
   combo.addItem("Wash");
   EXPECT_EQ(combo.index(), 0);
   EXPECT_EQ(shown(), "Wait");
+  combo.setText("Wash");
+  EXPECT_EQ(combo.index(), 1);
 }
 
 TEST_P(ComboBox, AssigningForgetsSelectionAndText) {
