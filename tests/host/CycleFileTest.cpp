@@ -36,6 +36,33 @@ class CycleFileTest : public testing::Test {
   QTemporaryDir folder_;
 };
 
+// For the superuser, who may read and write everywhere, "nobody" takes over together with the folder.
+class WithoutSuperuser {
+ public:
+  explicit WithoutSuperuser(const QString& folder) : superuser_(::geteuid() == 0) {
+    if (!superuser_) return;
+    const QFileInfoList entries = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden);
+    for (const QFileInfo& entry : entries) give(entry.filePath());
+    give(folder);
+    EXPECT_EQ(::setresuid(nobody, nobody, superuser), 0);
+  }
+  ~WithoutSuperuser() {
+    if (!superuser_) return;
+    EXPECT_EQ(::setresuid(superuser, superuser, superuser), 0);
+  }
+  WithoutSuperuser(const WithoutSuperuser&) = delete;
+  WithoutSuperuser& operator=(const WithoutSuperuser&) = delete;
+
+ private:
+  static constexpr uid_t superuser = 0;
+  static constexpr uid_t nobody = 65534;
+  static void give(const QString& path) {
+    EXPECT_EQ(::chown(QFile::encodeName(path).constData(), nobody, gid_t(-1)), 0);
+  }
+
+  bool superuser_;
+};
+
 QString cycleWith(const QString& description) {
   return QStringLiteral("<CYCLE><DESCRIPTION>//%1</DESCRIPTION><VARIABLES/><VERSION>03</VERSION></CYCLE>")
       .arg(description);
@@ -123,7 +150,7 @@ TEST_F(CycleFileTest, AFileThatCannotBeReadIsTold) {
 TEST_F(CycleFileTest, AFileThatMayNotBeReadIsTold) {
   const QString path = write("secret.xml", "<CYCLE/>");
   ASSERT_TRUE(QFile::setPermissions(path, {}));
-  if (::geteuid() == 0) GTEST_SKIP() << "The superuser may read every file.";
+  const WithoutSuperuser user(at("."));
   EXPECT_EQ(whyOf(readDocument(path, DocumentKind::Cycle)), "Permission denied.");
 }
 
@@ -210,7 +237,7 @@ TEST_F(CycleFileTest, AFullDiskIsToldAndTheFileIsStillTheOldOne) {
 
 TEST_F(CycleFileTest, AReadOnlyFileAndAReadOnlyFolderAreTold) {
   const QString path = write("c.xml", "old");
-  if (::geteuid() == 0) GTEST_SKIP() << "The superuser may write everywhere.";
+  const WithoutSuperuser user(at("."));
   ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner));
   const auto file = saveCycle(path, QStringLiteral("new"));
   ASSERT_TRUE(file);
