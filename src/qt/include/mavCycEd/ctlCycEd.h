@@ -71,6 +71,9 @@ class ctlCycEd : public QWidget {
 
   /// The edited cycle as XML with root CYCLE, empty when its sequence of atoms is empty. From now on CycleChanged
   /// compares with it.
+  ///
+  /// It is empty as well, without an error, when a name or a value makes no XML (a bare "&" or "<"; in the description
+  /// they do no harm). So never replace a kept cycle by an empty text: tell the user, and keep both.
   Q_INVOKABLE QString RetrieveCycle();
 
   void setIgnore_Hidden(bool booNewValue);
