@@ -36,17 +36,18 @@ void writeTable(std::ostream& output, const std::vector<Result>& results) {
   output << "| work | lines | ours | yardstick | ratio | target |\n|---|--:|--:|--:|--:|--:|\n";
   std::size_t missed = 0;
   for (const Result& result : results) {
-    output << "| " << result.work << " | " << result.lines << " | " << inUnit(result.ours, result.timed) << " | "
-           << inUnit(result.yardstick, result.timed) << " | " << number("%.2f", result.ratio()) << " | "
-           << (result.target ? number("%g", *result.target) : "–") << " |\n";
+    output << "| " << result.work << " | " << (result.lines > 0 ? std::to_string(result.lines) : "–") << " | "
+           << inUnit(result.ours, result.timed) << " | " << inUnit(result.yardstick, result.timed) << " | "
+           << number("%.2f", result.ratio()) << " | " << (result.target ? number("%g", *result.target) : "–") << " |\n";
     if (!result.isMet()) ++missed;
   }
   output << '\n';
   if (missed == 0) output << "All targets are met.\n";
   for (const Result& result : results) {
     if (result.isMet()) continue;
-    output << "Missed: " << result.work << ", " << result.lines << " lines: " << number("%.2f", result.ratio())
-           << " instead of at most " << number("%g", *result.target) << '\n';
+    output << "Missed: " << result.work;
+    if (result.lines > 0) output << ", " << result.lines << " lines";
+    output << ": " << number("%.2f", result.ratio()) << " instead of at most " << number("%g", *result.target) << '\n';
   }
 }
 
