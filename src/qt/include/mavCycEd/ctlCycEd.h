@@ -55,6 +55,8 @@ class ctlCycEd : public QWidget {
   explicit ctlCycEd(QWidget* parent = nullptr);
   explicit ctlCycEd(HostServices services, QWidget* parent = nullptr);
   ~ctlCycEd() override;
+  ctlCycEd(const ctlCycEd&) = delete;
+  ctlCycEd& operator=(const ctlCycEd&) = delete;
 
   /// Stores the configuration: XML with root Config, whose children Arguments/OBJECT say which arguments an object type
   /// offers. It is read when a question needs it, so this comes before SetXMLStrings. A text that is no XML counts as
