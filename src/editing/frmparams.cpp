@@ -1,5 +1,6 @@
 #include "editing/frmparams.h"
 
+#include <algorithm>
 #include <array>
 #include <unordered_set>
 #include <vector>
@@ -268,14 +269,12 @@ bool frmparams::isDefaultWithinLimits() {
 }
 
 bool frmparams::areSettingsComplete() {
-  for (const Setting& each : settings) {
-    const std::string value = setting(each.row);
-    if (!text::trimSpaces(value).empty()) continue;
-    tell(twoParagraphs("Incomplete parameter", each.missing));
-    screen_.grdParamStnd().focusValue(each.row);
-    return false;
-  }
-  return true;
+  const auto isMissing = [this](const Setting& each) { return text::trimSpaces(setting(each.row)).empty(); };
+  const auto* const missing = std::ranges::find_if(settings, isMissing);
+  if (missing == settings.end()) return true;
+  tell(twoParagraphs("Incomplete parameter", missing->missing));
+  screen_.grdParamStnd().focusValue(missing->row);
+  return false;
 }
 
 void frmparams::showWarningIllegalCharater1() {
