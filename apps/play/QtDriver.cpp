@@ -67,20 +67,6 @@ std::string withoutMarks(QString caption) {
   return caption.replace(QLatin1String("&&"), QLatin1String("&")).toStdString();
 }
 
-std::vector<QAction*> visibleActions(const QMenu& menu) {
-  std::vector<QAction*> visible;
-  for (QAction* const action : menu.actions()) {
-    if (action->isVisible()) visible.push_back(action);
-  }
-  return visible;
-}
-
-std::vector<std::string> captionsOf(const QMenu& menu) {
-  std::vector<std::string> captions;
-  for (const QAction* const action : visibleActions(menu)) captions.push_back(withoutMarks(action->text()));
-  return captions;
-}
-
 void checkRow(const GridHands& hands, std::string_view grid, int row) {
   if (row >= 1 && row < hands.rowCount()) return;
   throw StepRefused(std::string(grid) + " has no parameter row " + std::to_string(row) + ".");
@@ -261,29 +247,32 @@ std::optional<std::vector<std::string>> QtDriver::askForMenu(std::string_view gr
   QTest::mouseClick(widget, Qt::RightButton, Qt::NoModifier, place);
   QContextMenuEvent request(QContextMenuEvent::Mouse, place, widget->mapToGlobal(place));
   QCoreApplication::sendEvent(widget, &request);
-  const QMenu* const shown = openMenu();
+  const qt::PopupMenuWidget* const shown = openMenu();
   if (shown == nullptr) return std::nullopt;
-  return captionsOf(*shown);
+  return shown->captions();
 }
 
-QMenu* QtDriver::openMenu() const {
-  auto& menu = isDialogOpen() ? see<QMenu>("mnuSyrConstants") : see<QMenu>("mnuParam");
+qt::PopupMenuWidget* QtDriver::openMenu() const {
+  auto& menu = see<qt::PopupMenuWidget>(isDialogOpen() ? "mnuSyrConstants" : "mnuParam");
   return menu.isVisible() ? &menu : nullptr;
 }
 
 void QtDriver::chooseFromMenu(int place) {
-  QMenu* const shown = openMenu();
+  qt::PopupMenuWidget* const shown = openMenu();
   if (shown == nullptr) throw StepRefused("No pop-up menu is open.");
-  const std::vector<QAction*> actions = visibleActions(*shown);
-  if (place < 0 || static_cast<std::size_t>(place) >= actions.size()) {
+  if (place < 0 || static_cast<std::size_t>(place) >= shown->captions().size()) {
     throw StepRefused("The pop-up menu has no entry " + std::to_string(place) + ".");
   }
-  shown->setActiveAction(actions[static_cast<std::size_t>(place)]);
+  if (auto* const list = shown->findChild<QListView*>()) {
+    list->setCurrentIndex(list->model()->index(place, 0));
+    return QTest::keyClick(list, Qt::Key_Return);
+  }
+  shown->setActiveAction(shown->actions().at(place));
   QTest::keyClick(shown, Qt::Key_Return);
 }
 
 void QtDriver::dismissMenu() {
-  if (QMenu* const shown = openMenu()) QTest::keyClick(shown, Qt::Key_Escape);
+  if (qt::PopupMenuWidget* const shown = openMenu()) QTest::keyClick(shown, Qt::Key_Escape);
 }
 
 void QtDriver::replaceText(std::string_view textBox, const std::string& text) {
@@ -405,8 +394,8 @@ GridView QtDriver::grid(std::string_view name) const {
 }
 
 std::vector<std::string> QtDriver::menu(std::string_view name) const {
-  if (name == "mnuSubParam") return captionsOf(see<QMenu>("mnuParam"));
-  if (name == "mnuSyrConstant") return captionsOf(see<QMenu>("mnuSyrConstants"));
+  if (name == "mnuSubParam") return see<qt::PopupMenuWidget>("mnuParam").captions();
+  if (name == "mnuSyrConstant") return see<qt::PopupMenuWidget>("mnuSyrConstants").captions();
   throw StepRefused("There is no such control here: " + std::string(name));
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QDialog>
-#include <QMenu>
 #include <QPointer>
 #include <functional>
 #include <memory>
 
 #include "ControlDriver.h"
 #include "mavCycEd/ctlCycEd.h"
+#include "qt/QtPopupMenu.h"
 
 namespace mavCycEd::play {
 
@@ -69,7 +69,7 @@ class QtDriver : public ControlDriver {
   Widget& see(std::string_view name) const;
   template <typename Widget>
   Widget& use(std::string_view name) const;
-  QMenu* openMenu() const;
+  qt::PopupMenuWidget* openMenu() const;
 
   std::shared_ptr<platform::Timer> gridTimer_;
   std::function<void()> tick_;

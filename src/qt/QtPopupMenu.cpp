@@ -2,67 +2,77 @@
 
 #include <QCursor>
 #include <QPointer>
-#include <algorithm>
+#include <QWidgetAction>
+#include <cstddef>
 
-#include "platform/RunTimeError.h"
+#include "qt/MenuList.h"
 #include "qt/Notify.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
+namespace {
+
+// Beyond these a menu covers the screen, and takes the square of its entries to build.
+constexpr std::size_t mostEntries = 500;
+
+}  // namespace
 
 QtPopupMenu::QtPopupMenu(const CommandGate& gate, const char* name, QWidget* parent)
-    : gate_(gate), menu_(new QMenu(parent)) {
+    : gate_(gate), menu_(new PopupMenuWidget([this] { return visibleCaptions(); }, parent)) {
   menu_->setObjectName(QLatin1String(name));
-  items_.emplace(0, Item{{}, newAction(0)});
 }
 
 void QtPopupMenu::setCaption(std::string_view caption) {
-  caption_ = caption;
+  MenuItems::setCaption(caption);
   menu_->setTitle(withoutAccessKey(caption));
 }
 
-const QtPopupMenu::Item& QtPopupMenu::item(int index) const {
-  const auto found = items_.find(index);
-  if (found == items_.end()) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  return found->second;
-}
-
-// The action of a new item, in its place among those that exist.
-QAction* QtPopupMenu::newAction(int index) {
-  auto* const action = new QAction(menu_);
-  const auto next = items_.upper_bound(index);
-  menu_->insertAction(next == items_.end() ? nullptr : next->second.action, action);
-  connect(action, &QAction::triggered, this, [this, index] { onTriggered(index); });
-  return action;
-}
-
-void QtPopupMenu::createItem(int index) {
-  if (index < 0 || hasItem(index)) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-  items_.emplace(index, Item{{}, newAction(index)});
-}
-
-void QtPopupMenu::removeItem(int index) {
-  if (index == 0) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-  QAction* const action = item(index).action;
-  menu_->removeAction(action);
-  action->deleteLater();  // it may be the one that is being triggered
-  items_.erase(index);
-}
-
-void QtPopupMenu::setItemCaption(int index, std::string_view caption) {
-  item(index).action->setText(withoutAccessKey(caption));
-  items_.at(index).caption = caption;
+// An open menu does not stand for items that have changed behind it.
+void QtPopupMenu::itemsChanged() {
+  if (menu_->isVisible()) menu_->close();
 }
 
 void QtPopupMenu::popUp() {
-  if (std::ranges::none_of(menu_->actions(), &QAction::isVisible)) return;
-  menu_->popup(place_ ? place_() : QCursor::pos());
+  fill();
+  if (!menu_->isEmpty()) menu_->popup(place_ ? place_() : QCursor::pos());
+}
+
+void QtPopupMenu::fill() {
+  const QList<QAction*> former = menu_->actions();
+  for (QAction* const action : former) {
+    menu_->removeAction(action);
+    action->deleteLater();  // it may be the one that is being triggered
+  }
+  const std::vector<int> indexes = visibleIndexes();
+  menu_->addActions(indexes.size() <= mostEntries ? entries(indexes) : QList<QAction*>{listEntry(indexes)});
+}
+
+QList<QAction*> QtPopupMenu::entries(const std::vector<int>& indexes) {
+  QList<QAction*> actions;
+  for (const int index : indexes) {
+    auto* const action = new QAction(withoutAccessKey(itemCaption(index)), menu_);
+    connect(action, &QAction::triggered, this, [this, index] { onTriggered(index); });
+    actions.append(action);
+  }
+  return actions;
+}
+
+QAction* QtPopupMenu::listEntry(const std::vector<int>& indexes) {
+  auto* const action = new QWidgetAction(menu_);
+  auto* const list = new MenuList(visibleCaptions(), menu_);
+  action->setDefaultWidget(list);
+  connect(list, &MenuList::chosen, this, [this, indexes](int row) {
+    const QPointer<QtPopupMenu> self(this);
+    menu_->close();
+    if (self) onTriggered(indexes[static_cast<std::size_t>(row)]);
+  });
+  return action;
 }
 
 void QtPopupMenu::onTriggered(int index) {
   const QPointer<QtPopupMenu> self(this);
   gate_.pass();
-  if (self) tell(events_.Click, index);
+  if (self) tell(events().Click, index);
 }
 
 }  // namespace mavCycEd::qt

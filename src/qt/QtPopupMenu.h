@@ -3,16 +3,33 @@
 #include <QMenu>
 #include <QObject>
 #include <functional>
-#include <map>
+#include <string>
 #include <utility>
+#include <vector>
 
-#include "platform/PopupMenu.h"
+#include "platform/MenuItems.h"
 #include "qt/CommandGate.h"
 
 namespace mavCycEd::qt {
 
-/// A pop-up menu. The widget holds an action for every item, in index order, whether the menu is open or not.
-class QtPopupMenu : public QObject, public platform::PopupMenu {
+/// The widget of a pop-up menu. It gets its entries when it opens.
+class PopupMenuWidget : public QMenu {
+  Q_OBJECT
+
+ public:
+  using Captions = std::function<std::vector<std::string>()>;
+  PopupMenuWidget(Captions captions, QWidget* parent) : QMenu(parent), captions_(std::move(captions)) {}
+
+  /// The captions that it shows when it is open.
+  std::vector<std::string> captions() const { return captions_(); }
+
+ private:
+  Captions captions_;
+};
+
+/// A pop-up menu. More entries than a menu is good for are shown as a list in it, which scrolls and finds what is
+/// typed.
+class QtPopupMenu : public QObject, public platform::MenuItems {
   Q_OBJECT
 
  public:
@@ -22,35 +39,21 @@ class QtPopupMenu : public QObject, public platform::PopupMenu {
   /// Where the menu opens, in global coordinates; at the pointer when nobody says.
   void setPlace(std::function<QPoint()> place) { place_ = std::move(place); }
 
-  void setEvents(platform::PopupMenuEvents events) override { events_ = std::move(events); }
-  std::string caption() const override { return caption_; }
   void setCaption(std::string_view caption) override;
-  int itemCount() const override { return static_cast<int>(items_.size()); }
-  int lastIndex() const override { return items_.rbegin()->first; }
-  bool hasItem(int index) const override { return items_.contains(index); }
-  void createItem(int index) override;
-  void removeItem(int index) override;
-  std::string itemCaption(int index) const override { return item(index).caption; }
-  void setItemCaption(int index, std::string_view caption) override;
-  bool isItemVisible(int index) const override { return item(index).action->isVisible(); }
-  void setItemVisible(int index, bool visible) override { item(index).action->setVisible(visible); }
   void popUp() override;
 
+ protected:
+  void itemsChanged() override;
+
  private:
-  struct Item {
-    std::string caption;
-    QAction* action;
-  };
-  const Item& item(int index) const;
-  QAction* newAction(int index);
+  void fill();
+  QList<QAction*> entries(const std::vector<int>& indexes);
+  QAction* listEntry(const std::vector<int>& indexes);
   void onTriggered(int index);
 
   const CommandGate& gate_;
-  QMenu* menu_;
+  PopupMenuWidget* menu_;
   std::function<QPoint()> place_;
-  platform::PopupMenuEvents events_;
-  std::string caption_;
-  std::map<int, Item> items_;
 };
 
 }  // namespace mavCycEd::qt

@@ -171,6 +171,12 @@ void spoilUnits(MistakenHost& host) { host.provider->atUnit = fail; }
 void spoilMessages(MistakenHost& host) { host.messages->atMessage = fail; }
 void spoilTimer(MistakenHost& host) { host.timer->atSetting = fail; }
 
+void askForMenu(MistakenHost& host, int row) {
+  const QPoint place = host.placeOf("GrdAtom", row, 1);
+  QContextMenuEvent event(QContextMenuEvent::Mouse, place, place);
+  QApplication::sendEvent(host.widget<QAbstractItemView>("GrdAtom").viewport(), &event);
+}
+
 const Trigger triggers[] = {
     {"Load", spoilUnits, [](MistakenHost& host) { host.load(); }},
     {"LoadInAnEdit", spoilMessages,
@@ -274,12 +280,11 @@ const Trigger triggers[] = {
     {"EditEndByMenu", spoilMessages,
      [](MistakenHost& host) {
        host.type(0, "700");
-       const QPoint place = host.placeOf("GrdAtom", 1, 1);
-       QContextMenuEvent event(QContextMenuEvent::Mouse, place, place);
-       QApplication::sendEvent(host.widget<QAbstractItemView>("GrdAtom").viewport(), &event);
+       askForMenu(host, 1);
      }},
     {"MenuInAnEdit", spoilMessages,
      [](MistakenHost& host) {
+       askForMenu(host, 0);
        host.type(0, "700");
        host.widget<QMenu>("mnuParam").actions().constFirst()->trigger();
      }},

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QListView>
 #include <QTest>
 
 #include "paramgrid/modControlArray.h"
@@ -28,11 +30,12 @@ class PopupMenu : public testing::Test {
     menu.setItemCaption(0, "Default:5");
   }
 
+  // What the menu shows when it opens.
   std::vector<std::string> shown() {
+    menu.popUp();
     std::vector<std::string> captions;
-    for (const QAction* const action : menu.widget()->actions()) {
-      if (action->isVisible()) captions.push_back(action->text().toStdString());
-    }
+    for (const QAction* const action : menu.widget()->actions()) captions.push_back(action->text().toStdString());
+    menu.widget()->close();
     return captions;
   }
   void choose(int place) {
@@ -98,6 +101,54 @@ TEST_F(PopupMenu, ItemsGrowAndShrinkAsAnArray) {
   deleteItems(menu);
   EXPECT_THAT(shown(), ElementsAre("Default:5"));
   EXPECT_EQ(firstFreePlace(menu), 1);
+}
+
+TEST_F(PopupMenu, ClosesWhenItsItemsChangeBehindIt) {
+  menu.popUp();
+  menu.setItemCaption(0, "Default:6");
+  EXPECT_FALSE(menu.widget()->isVisible());
+  EXPECT_THAT(shown(), ElementsAre("Default:6"));
+}
+
+class LongPopupMenu : public PopupMenu {
+ protected:
+  LongPopupMenu() {
+    for (int index = 1; index <= 5000; ++index) {
+      menu.createItem(index);
+      menu.setItemCaption(index, "Vial " + std::to_string(index));
+    }
+    menu.setItemVisible(1, false);
+    menu.popUp();
+  }
+  QListView* list() { return menu.widget()->findChild<QListView*>(); }
+};
+
+TEST_F(LongPopupMenu, IsAListThatFitsTheScreen) {
+  ASSERT_NE(list(), nullptr);
+  EXPECT_EQ(list()->model()->rowCount(), 5000);
+  EXPECT_EQ(list()->model()->index(1, 0).data().toString(), QStringLiteral("Vial 2"));
+  EXPECT_LT(menu.widget()->height(), 600);
+  EXPECT_GE(list()->viewport()->width(), list()->sizeHintForColumn(0));
+}
+
+TEST_F(LongPopupMenu, EnterChoosesWhatWasTyped) {
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Vial 44"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_FALSE(menu.widget()->isVisible());
+  EXPECT_THAT(chosen, ElementsAre(44));
+}
+
+TEST_F(LongPopupMenu, ClickChooses) {
+  const QPoint place = list()->visualRect(list()->model()->index(2, 0)).center();
+  QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, place);
+  EXPECT_FALSE(menu.widget()->isVisible());
+  EXPECT_THAT(chosen, ElementsAre(3));
+}
+
+TEST_F(LongPopupMenu, EscClosesWithoutAChoice) {
+  QTest::keyClick(list(), Qt::Key_Escape);
+  EXPECT_FALSE(menu.widget()->isVisible());
+  EXPECT_THAT(chosen, IsEmpty());
 }
 
 TEST_F(PopupMenu, AmpersandsAreThemselves) {

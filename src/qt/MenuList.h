@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QListView>
+#include <string>
+#include <vector>
+
+namespace mavCycEd::qt {
+
+/// The entries of a long pop-up menu, as a list in it. A click or Enter chooses; typing finds; Esc is the menu's.
+class MenuList : public QListView {
+  Q_OBJECT
+
+ public:
+  MenuList(std::vector<std::string> captions, QWidget* parent);
+
+  QSize sizeHint() const override;
+
+ signals:
+  void chosen(int row);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+};
+
+}  // namespace mavCycEd::qt
