@@ -26,7 +26,7 @@ QSize MenuList::sizeHint() const {
   constexpr int mostCharacters = 60;
   const QFontMetrics metrics = fontMetrics();
   const auto& model = static_cast<const TextListModel&>(*this->model());
-  const int text = metrics.horizontalAdvance(toQt(model.longest()));
+  const int text = metrics.horizontalAdvance(toQtLine(model.longest()));
   const int widest = mostCharacters * metrics.averageCharWidth();
   return {std::min(text, widest) + verticalScrollBar()->sizeHint().width() + margin,
           std::min(rows, model.count()) * sizeHintForRow(0)};

@@ -2,12 +2,29 @@
 
 #include <QInputMethodEvent>
 #include <QScopedValueRollback>
+#include <algorithm>
+#include <cstddef>
 
 #include "qt/Notify.h"
 #include "qt/Text.h"
 #include "text/LineEnds.h"
 
 namespace mavCycEd::qt {
+namespace {
+
+// Breaking a word into lines takes Qt the square of its length.
+bool hasEndlessWord(std::string_view text) {
+  constexpr std::size_t longestWrapped = 10'000;
+  std::size_t begin = 0;
+  while (begin + longestWrapped < text.size()) {
+    const std::size_t blank = text.find_first_of(" \t\r\n", begin);
+    if (std::min(blank, text.size()) - begin > longestWrapped) return true;
+    begin = blank + 1;
+  }
+  return false;
+}
+
+}  // namespace
 
 QtTextBox::QtTextBox(const char* name, QWidget* parent) : edit_(new QPlainTextEdit(parent)) {
   edit_->setObjectName(QLatin1String(name));
@@ -21,6 +38,8 @@ std::string QtTextBox::text() const { return text_; }
 void QtTextBox::setText(std::string_view text) {
   text_ = text::toCrLf(text);
   const QScopedValueRollback setting(settingText_, true);
+  edit_->clear();  // or the new mode would lay out the old text
+  edit_->setLineWrapMode(hasEndlessWord(text_) ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
   edit_->setPlainText(toQt(text_));
 }
 

@@ -85,7 +85,7 @@ int TextListModel::rowCount(const QModelIndex& parent) const { return parent.isV
 QVariant TextListModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= count()) return {};
   switch (role) {
-    case Qt::DisplayRole:
+    case Qt::DisplayRole: return toQtLine(text(index.row()));
     case Qt::EditRole: return toQt(text(index.row()));
     case ExactTextRole: return QByteArray::fromStdString(text(index.row()));
     default: return {};

@@ -23,7 +23,7 @@ class UniformDelegate : public RowDelegate {
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QString text = index.data().toString();
     const int difference =
-        option.fontMetrics.horizontalAdvance(toQt(model_.longest())) - option.fontMetrics.horizontalAdvance(text);
+        option.fontMetrics.horizontalAdvance(toQtLine(model_.longest())) - option.fontMetrics.horizontalAdvance(text);
     return RowDelegate::sizeHint(option, index) + QSize(difference, 0);
   }
 
