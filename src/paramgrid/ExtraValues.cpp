@@ -1,9 +1,10 @@
 #include "paramgrid/ExtraValues.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <string>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "paramgrid/ObjectTests.h"
@@ -113,29 +114,52 @@ void ExtraValues::Delete_Extra_Udons(std::string_view variable) {
 }
 
 void ExtraValues::Update_Extra_Params() {
-  if (held_ > 0) {
-    putOff_ = lstVariables_.itemCount();
-  } else {
-    offerFirst(lstVariables_.itemCount());
-  }
+  guarded(errors_, "Update_Extra_Params", [this] {
+    const int variables = lstVariables_.itemCount();
+    if (held_ > 0) {
+      putOff_ = variables;
+    } else {
+      offerFirst(variables);
+    }
+  });
 }
 
 ExtraValues::Hold::~Hold() {
-  if (--values_.held_ > 0) return;
-  values_.offerFirst(std::min(values_.putOff_, values_.lstVariables_.itemCount()));
-  values_.putOff_ = 0;
+  if (--values_.held_ == 0) values_.doWhatWasPutOff();
 }
 
-void ExtraValues::offerFirst(int variables) {
-  guarded(errors_, "Update_Extra_Params", [&] {
-    // The names of all variables of a unit at once: there may be a great many.
-    std::unordered_map<std::string, std::string> namesOfUnit;
-    for (int i = 0; i < variables; ++i) {
-      const std::optional<Variable> variable = parsed(lstVariables_.itemText(i));
-      if (variable) appendName(namesOfUnit[variable->unit], variable->name);
-    }
-    for (const auto& [unit, names] : namesOfUnit) offer(names, unit);
+void ExtraValues::doWhatWasPutOff() {
+  guarded(errors_, "Update_Extra_Params", [this] {
+    const int variables = std::exchange(putOff_, 0);
+    // The grid may have been filled since with an atom for which nobody asked: its first parameter has no name.
+    if (!grdAtom_.cellText(0, 1).empty()) offerFirst(variables);
   });
+}
+
+// Offers the names of all variables of a unit at once: there may be a great many.
+void ExtraValues::offerFirst(int variables) {
+  struct Offer {
+    std::string names;
+    int count = 0;
+  };
+  std::map<std::string, Offer> offers;
+  guarded(errors_, "Update_Extra_Params", [&] {
+    for (int i = 0; i < std::min(variables, lstVariables_.itemCount()); ++i) {
+      const std::optional<Variable> variable = parsed(lstVariables_.itemText(i));
+      if (!variable) continue;
+      Offer& ofUnit = offers[variable->unit];
+      appendName(ofUnit.names, variable->name);
+      ++ofUnit.count;
+    }
+  });
+  for (const auto& [unit, offered] : offers) {
+    try {
+      offer(offered.names, unit);
+    } catch (...) {
+      // As if each of them had been offered by itself.
+      for (int i = 0; i < offered.count; ++i) reportCurrentError(errors_, "Add_Extra_Udons");
+    }
+  }
 }
 
 }  // namespace mavCycEd

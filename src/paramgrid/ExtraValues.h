@@ -23,7 +23,8 @@ class ExtraValues {
   void Add_Extra_Udons(std::string_view variable);
   /// Withdraws a variable. A row that holds it as its value shows the value again that it was filled with.
   void Delete_Extra_Udons(std::string_view variable);
-  /// Offers all variables of the cycle, after the grid was refilled.
+  /// Offers all variables of the cycle, after the grid was refilled. One that cannot be offered is reported under
+  /// Add_Extra_Udons, and keeps no other back.
   void Update_Extra_Params();
 
   /// While one of these lives Update_Extra_Params() waits; what the last call would have done is done at the end. For
@@ -40,6 +41,7 @@ class ExtraValues {
   };
 
  private:
+  void doWhatWasPutOff();
   void offerFirst(int variables);
   void offer(std::string_view names, std::string_view unit);
   template <typename Change>

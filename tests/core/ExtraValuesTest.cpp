@@ -13,6 +13,28 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
+/// A grid with a row that takes no pick list.
+class BrokenGrid : public memory::MemoryValueList {
+ public:
+  using MemoryValueList::MemoryValueList;
+  void setPickList(int row, std::string_view items) override {
+    if (row == brokenRow) throw RunTimeError(77, "no list");
+    MemoryValueList::setPickList(row, items);
+  }
+  int brokenRow = 0;
+};
+
+/// A list that cannot read one of its items.
+class BrokenList : public memory::MemoryListBox {
+ public:
+  using MemoryListBox::MemoryListBox;
+  std::string itemText(int index) const override {
+    if (index == brokenItem) throw RunTimeError(78, "no item");
+    return MemoryListBox::itemText(index);
+  }
+  int brokenItem = -1;
+};
+
 /// A grid whose rows are written by hand: a number in ml, a pick list without a unit, a pick list of the unit None, and
 /// a number whose unit is an object class.
 class ExtraValuesTest : public ::testing::Test {
@@ -51,8 +73,8 @@ class ExtraValuesTest : public ::testing::Test {
   const std::vector<std::string>& pickList(int row) { return grid_.rows().entry(row)->pickList; }
 
   test::RecordingSink errors_;
-  memory::MemoryValueList grid_{nullptr};
-  memory::MemoryListBox variables_{nullptr};
+  BrokenGrid grid_{nullptr};
+  BrokenList variables_{nullptr};
   GridState state_;
   ExtraValues extra_{grid_, state_, variables_, errors_};
 };
@@ -155,6 +177,24 @@ TEST_F(ExtraValuesTest, ARefilledGridIsOfferedAllVariablesInTheirOrder) {
   extra_.Update_Extra_Params();
   EXPECT_THAT(extraValues(), ElementsAre("Fill;Rest", "Rack", "", ""));
   EXPECT_THAT(errors_.reports, IsEmpty());
+}
+
+TEST_F(ExtraValuesTest, AVariableThatCannotBeOfferedIsToldOfAndTheOthersAreOffered) {
+  grid_.brokenRow = Source;
+  variables_.assign({"Rack;TRAY", "Fill (ml);1;0;9", "Shelf;TRAY", "Rounds ();3;1;12"});
+  extra_.Update_Extra_Params();
+  EXPECT_THAT(errors_.procedures(), ElementsAre("Add_Extra_Udons", "Add_Extra_Udons")) << "Rack and Shelf";
+  EXPECT_EQ(errors_.reports.front().number, 77);
+  EXPECT_THAT(extraValues(), ElementsAre("Fill", "Rack;Shelf", "Rounds", ""));
+}
+
+TEST_F(ExtraValuesTest, AnEntryThatCannotBeReadEndsTheWalk) {
+  variables_.assign({"Fill (ml);1;0;9", "Rack;TRAY", "Rest (ml);1;0;9"});
+  variables_.brokenItem = 1;
+  extra_.Update_Extra_Params();
+  EXPECT_THAT(errors_.procedures(), ElementsAre("Update_Extra_Params"));
+  EXPECT_EQ(errors_.reports.front().number, 78);
+  EXPECT_THAT(extraValues(), ElementsAre("Fill", "", "", "")) << "those before it are offered";
 }
 
 TEST_F(ExtraValuesTest, RowsBeyondTheTableAreLeftAlone) {
