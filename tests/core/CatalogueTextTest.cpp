@@ -62,5 +62,22 @@ TEST(ItIsObject, LooksAtTheCleanedText) {
   EXPECT_FALSE(ItIsObject(",Â"));
 }
 
+TEST(IsAnObject, IsTrueForACallOfACapitalName) {
+  for (const char* text : {"WASH(3)", "WASH()", "WASH(", "SELECT_VALVE(a(b", "__(1)"}) {
+    EXPECT_TRUE(IsAnObject(text)) << text;
+  }
+}
+
+TEST(IsAnObject, IsFalseWithoutSuchANameBeforeTheParenthesis) {
+  for (const char* text : {"", "WASH", "(1)", "A(1)", "Wash(1)", "WASH (1)", "WASH2(1)", "a(WASH(1)"}) {
+    EXPECT_FALSE(IsAnObject(text)) << text;
+  }
+}
+
+TEST(IsAnObject, LooksAtTheTextAsItIs) {
+  EXPECT_FALSE(IsAnObject("WA,SH(1)"));
+  EXPECT_FALSE(IsAnObject("WÄSH(1)"));
+}
+
 }  // namespace
 }  // namespace mavCycEd
