@@ -34,6 +34,7 @@ void SyringeConstants::EmptyMnu() {
 
 void SyringeConstants::grdParamStnd_OnMouseDown(platform::MouseButton button) {
   guarded(errors_, "grdParamStnd_OnMouseDown", [&] {
+    chosenByKeys_ = false;
     if (button == platform::MouseButton::Primary) pressedRow_ = screen_.grdParamStnd().Row();
   });
 }
@@ -43,6 +44,7 @@ void SyringeConstants::grdParamStnd_OnContextPopup(int x, int y) {
     constexpr int titleBottom = 16;
     constexpr int rowsBottom = 76;
     constexpr int keyColumnEnd = 150;
+    if (chosenByKeys_) pressedRow_ = screen_.grdParamStnd().Row();
     const bool overValues = y > titleBottom && y < rowsBottom && x > keyColumnEnd;
     platform::PopupMenu& menu = screen_.mnuSyrConstant();
     if (overValues && !menu.itemCaption(0).empty()) menu.popUp();

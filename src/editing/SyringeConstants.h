@@ -17,11 +17,14 @@ class SyringeConstants {
 
   /// The focus left the unit box: gathers the values of the unit that stands there.
   void cboUnit_LostFocus();
+  /// The row was chosen; if no press of the mouse follows, the keys have led there.
+  void grdParamStnd_OnSelectionChange() { chosenByKeys_ = true; }
   /// Remembers the row that the primary button pressed.
   void grdParamStnd_OnMouseDown(platform::MouseButton button);
-  /// Shows the menu when the pointer is over the values of the three settings.
+  /// Shows the menu when the pointer is over the values of the three settings. A user of the keyboard has no button to
+  /// press: the row that the keys led to is remembered then.
   void grdParamStnd_OnContextPopup(int x, int y);
-  /// Puts the chosen value into the row that was pressed last, or into the first one.
+  /// Puts the chosen value into the remembered row, or into the first one.
   void mnuSyrConstant_Click(int index);
 
  private:
@@ -31,6 +34,7 @@ class SyringeConstants {
   modCycleHelper& catalogue_;
   ErrorSink& errors_;
   int pressedRow_ = 0;
+  bool chosenByKeys_ = false;
 };
 
 }  // namespace mavCycEd

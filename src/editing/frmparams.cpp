@@ -70,6 +70,7 @@ void frmparams::connect() {
   screen_.cmdCancel().setEvents({.Click = [this] { cmdCancel_Click(); }});
   screen_.cboUnit().setEvents({.Click = {}, .LostFocus = [this] { constants_.cboUnit_LostFocus(); }});
   platform::ValueListEvents gridEvents;
+  gridEvents.SelectionChange = [this] { constants_.grdParamStnd_OnSelectionChange(); };
   gridEvents.MouseDown = [this](platform::MouseButton button, int, int) {
     constants_.grdParamStnd_OnMouseDown(button);
   };
