@@ -56,6 +56,7 @@ void CellEdit::open(int row) {
   view_.edit(index_);
   editor_ = view_.indexWidget(index_);
   if (!editor_) return;
+  view_.viewport()->update();
   QLineEdit& line = lineOf(*editor_);
   for (QWidget* const part : std::initializer_list<QWidget*>{editor_, &line}) {
     part->setMouseTracking(true);
@@ -175,6 +176,7 @@ void CellEdit::close() {
   editor->disconnect(this);
   view_.removeEditor(editor);
   view_.markCurrentRow();
+  view_.viewport()->update();  // where the focus is shows in the whole row, not in the edited cell only
 }
 
 void CellEdit::leave(Step step) {

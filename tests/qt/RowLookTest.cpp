@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QPaintEvent>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "TestGrid.h"
 #include "qt/ComboWidget.h"
@@ -93,6 +95,41 @@ TEST(RowLook, RowOfAnOpenEditorIsNotMuted) {
   grid.key(Qt::Key_Escape);
   grid.after.widget()->setFocus();
   EXPECT_NE(key(), selection);
+}
+
+/// Notes what of a widget is painted.
+class PaintWatch : public QObject {
+ public:
+  explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+  QRegion painted;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) painted += static_cast<const QPaintEvent*>(event)->region();
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+// The key of the row, that is: its value may be covered by the editor.
+void expectKeyIsPainted(TestGrid& grid, const std::function<void()>& change) {
+  QCoreApplication::processEvents();
+  const PaintWatch watch(*grid.view().viewport());
+  change();
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(watch.painted.contains(grid.cell(0, 2).center()));
+}
+
+TEST(RowLook, WholeRowIsPaintedAnewWhenTheFocusLeavesItsEditor) {
+  TestGrid grid;
+  grid.click(1, 2);
+  expectKeyIsPainted(grid, [&grid] { grid.after.widget()->setFocus(); });
+}
+
+TEST(RowLook, WholeRowIsPaintedAnewWhenTheFocusComesToItsEditor) {
+  TestGrid grid;
+  grid.click(1, 2);
+  grid.after.widget()->setFocus();
+  expectKeyIsPainted(grid, [&grid] { grid.grid.focusValue(2); });
 }
 
 TEST(RowLook, PickListsHaveAirBetweenTheirItems) {
