@@ -20,13 +20,15 @@ QMessageBox::Icon iconOf(int flags) {
   }
 }
 
-// A short message would make a window in which its title is cut off.
+// A short message would make a window in which its title is cut off. Titles are written in bold letters, mostly.
 void showWholeTitle(QMessageBox& box) {
   auto* const layout = qobject_cast<QGridLayout*>(box.layout());
   if (layout == nullptr) return;
-  constexpr int windowButtons = 12;  // and their margins, in characters
-  const QFontMetrics metrics = box.fontMetrics();
-  const int width = metrics.horizontalAdvance(box.windowTitle()) + windowButtons * metrics.averageCharWidth();
+  constexpr int windowButtons = 16;  // with the icon and all margins, in characters
+  QFont bold = box.font();
+  bold.setBold(true);
+  const int title = QFontMetrics(bold).horizontalAdvance(box.windowTitle());
+  const int width = title + windowButtons * box.fontMetrics().averageCharWidth();
   layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
 }
 

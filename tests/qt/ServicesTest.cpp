@@ -75,6 +75,19 @@ TEST(MessageBox, ShowsTitleTextAndIcon) {
   }
 }
 
+// Window managers write titles in bold letters, with an icon before them and three buttons behind.
+TEST(MessageBox, IsWideEnoughForItsTitle) {
+  QWidget window;
+  window.show();
+  qt::QtMessageBox messages(&window);
+  answered(messages, "text", platform::Critical, [](QMessageBox& box) {
+    QFont bold = box.font();
+    bold.setBold(true);
+    const int title = QFontMetrics(bold).horizontalAdvance(box.windowTitle());
+    EXPECT_GE(box.width(), title + 16 * box.fontMetrics().averageCharWidth());
+  });
+}
+
 TEST(MessageBox, OutlivesItsWindow) {
   auto* const window = new QWidget;
   window->show();
