@@ -276,6 +276,10 @@ void QtDriver::dismissMenu() {
 }
 
 void QtDriver::replaceText(std::string_view textBox, const std::string& text) {
+  const auto& seen = see<QWidget>(textBox);
+  if (qobject_cast<const QPlainTextEdit*>(&seen) == nullptr && qobject_cast<const QLineEdit*>(&seen) == nullptr) {
+    throw StepRefused("There is no such control here: " + std::string(textBox));
+  }
   pasteOverAll(use<QWidget>(textBox), text);
 }
 
