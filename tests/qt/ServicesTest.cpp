@@ -2,7 +2,11 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <cerrno>
@@ -86,6 +90,33 @@ TEST(MessageBox, IsWideEnoughForItsTitle) {
     const int title = QFontMetrics(bold).horizontalAdvance(box.windowTitle());
     EXPECT_GE(box.width(), title + 16 * box.fontMetrics().averageCharWidth());
   });
+}
+
+TEST(MessageBox, TextHigherThanTheScreenIsScrolled) {
+  QWidget window;
+  window.show();
+  qt::QtMessageBox messages(&window);
+  std::string lines;
+  for (int i = 1; i <= 500; ++i) lines += "Line " + std::to_string(i) + " - atom \"MIX\", parameter \"Volume\"\r\n";
+  answered(messages, lines, platform::Exclamation, [](QMessageBox& box) {
+    EXPECT_LT(box.height(), box.screen()->availableSize().height());
+    EXPECT_TRUE(box.rect().contains(box.button(QMessageBox::Ok)->geometry()));
+    const auto* const area = box.findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr);
+    const QRect seen = area->viewport()->rect();
+    EXPECT_GT(area->widget()->height(), 500 * box.fontMetrics().height());
+    EXPECT_LE(area->widget()->width(), seen.width()) << "whole lines are in view";
+    area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
+    EXPECT_TRUE(seen.contains(area->widget()->geometry().bottomLeft()));
+  });
+}
+
+TEST(MessageBox, ShortTextHasNoScrollBar) {
+  QWidget window;
+  window.show();
+  qt::QtMessageBox messages(&window);
+  answered(messages, "first\r\nsecond", platform::Exclamation,
+           [](QMessageBox& box) { EXPECT_EQ(box.findChild<QScrollArea*>(), nullptr); });
 }
 
 TEST(MessageBox, OutlivesItsWindow) {
