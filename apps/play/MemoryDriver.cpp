@@ -127,7 +127,7 @@ void MemoryDriver::doubleClickItem(std::string_view list, int index) {
 
 void MemoryDriver::clickButton(std::string_view button) {
   if (button.starts_with("opt")) {
-    controls_.use<MemoryOptionButton>(button).select();
+    controls_.use<MemoryOptionButton>(button).press();
   } else {
     controls_.use<MemoryButton>(button).press();
   }

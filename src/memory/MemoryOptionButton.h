@@ -31,6 +31,11 @@ class MemoryOptionButton : public platform::OptionButton, public Control {
     notify(events_.Click);
   }
 
+  /// The user presses it.
+  void press() {
+    if (!selected_) select();
+  }
+
  private:
   platform::OptionButtonEvents events_;
   std::string caption_;

@@ -8,7 +8,8 @@ namespace mavCycEd::platform {
 
 /// What an option button tells its owner.
 struct OptionButtonEvents {
-  /// The option was selected: by the user, or by code through OptionButton::select.
+  /// The option was selected: by the user, or by code through OptionButton::select. A user who presses the option that
+  /// is selected already selects nothing.
   std::function<void()> Click;
 };
 

@@ -1,6 +1,7 @@
 #include "qt/QtOptionButton.h"
 
 #include <QPointer>
+#include <utility>
 
 #include "qt/Notify.h"
 #include "qt/Text.h"
@@ -10,6 +11,7 @@ namespace mavCycEd::qt {
 QtOptionButton::QtOptionButton(const CommandGate& gate, const char* name, QWidget* parent)
     : gate_(gate), button_(new QRadioButton(parent)) {
   button_->setObjectName(QLatin1String(name));
+  connect(button_, &QRadioButton::toggled, this, [this](bool selected) { isNewlySelected_ = selected; });
   connect(button_, &QRadioButton::clicked, this, &QtOptionButton::raiseClick);
 }
 
@@ -20,10 +22,12 @@ void QtOptionButton::setCaption(std::string_view caption) {
 
 void QtOptionButton::select() {
   button_->setChecked(true);
+  isNewlySelected_ = false;
   tell(events_.Click);
 }
 
 void QtOptionButton::raiseClick() {
+  if (!std::exchange(isNewlySelected_, false)) return;
   const QPointer<QtOptionButton> self(this);
   gate_.pass();
   if (self) tell(events_.Click);

@@ -42,6 +42,7 @@ void Win32OptionButton::onCommand(int notification) {
 }
 
 void Win32OptionButton::onPosted(int) {
+  if (selected_) return;
   show();
   const Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
