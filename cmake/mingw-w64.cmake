@@ -22,7 +22,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 # Only a library's own package file knows that it is a static one.
 set(CMAKE_FIND_PACKAGE_PREFER_CONFIG TRUE)
 
-find_program(MAVCYCED_WINE wine)
-if(MAVCYCED_WINE)
-  set(CMAKE_CROSSCOMPILING_EMULATOR "${MAVCYCED_WINE}")
-endif()
+# By its name, so that it need not be installed yet when a build folder is made.
+set(CMAKE_CROSSCOMPILING_EMULATOR wine)
