@@ -9,8 +9,8 @@ usage() {
   cat <<'END'
 Usage: ./windows.sh [--build-only] [-- CTEST ARGUMENTS]
 
-Installs the missing packages of packages.txt, builds the Windows programs in build/windows/bin/ with mingw-w64, and
-runs their tests with Wine, which gets a folder of its own below build/ and needs no display.
+Installs the missing packages of packages.txt, builds the Windows programs and the help file in build/windows/bin/
+with mingw-w64, and runs their tests with Wine, which gets a folder of its own below build/ and needs no display.
 
   --build-only         stop after the build
   -- CTEST ARGUMENTS   more arguments for ctest, as in ./windows.sh -- -R scenarios
@@ -29,12 +29,12 @@ while (($# > 0)); do
   shift
 done
 
-sections=(build windows)
+sections=(build windows help)
 $build_only || sections+=(wine)
 install_packages "${sections[@]}"
 build_windows_libraries
 build windows
-if [[ -x "$root/scripts/help.sh" ]]; then "$root/scripts/help.sh" "$root/build/windows/bin"; fi
+"$root/scripts/help.sh" "$root/build/windows/bin"
 if $build_only; then
   say "Built: $root/build/windows/bin"
   exit
