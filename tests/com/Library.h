@@ -33,7 +33,7 @@ class Apartment {
 
 class Library {
  public:
-  Library() : module_(LoadLibraryW(L"mavCycEd.dll")) {}
+  explicit Library(const wchar_t* file = L"mavCycEd.dll") : module_(LoadLibraryW(file)) {}
   ~Library() { FreeLibrary(module_); }
   Library(const Library&) = delete;
   Library& operator=(const Library&) = delete;
