@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "win32/ComboLine.h"
 #include "win32/Dpi.h"
 #include "win32/Text.h"
 
@@ -15,12 +16,6 @@ std::wstring onOneLine(std::wstring text) {
   const auto breaksLine = [](wchar_t c) { return c < L' ' || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029; };
   std::ranges::replace_if(text, breaksLine, L' ');
   return text;
-}
-
-HWND lineOfCombo(HWND combo) {
-  COMBOBOXINFO parts{};
-  parts.cbSize = sizeof parts;
-  return GetComboBoxInfo(combo, &parts) != FALSE ? parts.hwndItem : nullptr;
 }
 
 }  // namespace
@@ -145,9 +140,17 @@ void CellEditor::place(const RECT& cell) {
     line_->place(inside);
     return;
   }
-  const int borders = scaled(combo_->handle(), 6);
-  SendMessageW(combo_->handle(), CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), cell.bottom - cell.top - borders);
-  combo_->place(cell);
+  const HWND combo = combo_->handle();
+  // What a combo box adds to this height depends on the system: the second time it is known.
+  LONG height = cell.bottom - cell.top;
+  for (int i = 0; i < 2; ++i) {
+    SendMessageW(combo, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height);
+    combo_->place(cell);
+    RECT now{};
+    GetWindowRect(combo, &now);
+    height -= (now.bottom - now.top) - (cell.bottom - cell.top);
+  }
+  centerLineOfCombo(combo, TextMeasure(line(), combo_->fontHandle()).lineHeight());
 }
 
 void CellEditor::setFocus() {

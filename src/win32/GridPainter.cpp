@@ -31,6 +31,21 @@ RECT GridPainter::arrowOf(const GridGeometry& geometry, int row) {
   return place;
 }
 
+void paintGridBorder(HWND window, bool enabled) {
+  const Theme theme = openTheme(window, L"EDIT");
+  if (theme == nullptr) return;
+  RECT whole{};
+  GetWindowRect(window, &whole);
+  OffsetRect(&whole, -whole.left, -whole.top);
+  RECT inside = whole;
+  InflateRect(&inside, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
+  const HDC context = GetWindowDC(window);
+  ExcludeClipRect(context, inside.left, inside.top, inside.right, inside.bottom);
+  DrawThemeBackground(theme.get(), context, EP_EDITBORDER_NOSCROLL, enabled ? EPSN_NORMAL : EPSN_DISABLED, &whole,
+                      nullptr);
+  ReleaseDC(window, context);
+}
+
 void GridPainter::paint(HDC context) const {
   const RECT all{0, 0, geometry_.width, geometry_.height};
   FillRect(context, &all, GetSysColorBrush(looks_.enabled ? COLOR_WINDOW : COLOR_BTNFACE));

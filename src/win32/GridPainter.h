@@ -5,6 +5,9 @@
 
 namespace mavCycEd::win32 {
 
+/// Draws the theme's border over the one of the system's own that a window has at its sunken edge.
+void paintGridBorder(HWND window, bool enabled);
+
 /// Draws a grid of keys and values, with an arrow where there is a list to pick from.
 class GridPainter {
  public:

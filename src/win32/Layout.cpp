@@ -11,7 +11,8 @@ Spaces::Spaces(HWND window, HFONT font) {
   gap = scaled(window, 6);
   frameTop = line + scaled(window, 4);
   buttonHeight = line + scaled(window, 10);
-  lineHeight = line + scaled(window, 8);
+  // The system writes at the upper edge of a text box: no more room than its border and a little more.
+  lineHeight = line + 2 * GetSystemMetrics(SM_CYEDGE) + 4;
 }
 
 RECT Spaces::inside(const RECT& frame) const {

@@ -324,11 +324,15 @@ std::optional<LRESULT> ValueListView::onMessage(UINT message, WPARAM wParam, LPA
   if (reflect(message, wParam, lParam, result)) return result;
   switch (message) {
     case WM_PAINT: return onPaint();
+    case WM_NCPAINT:
+      result = callSystem(message, wParam, lParam);
+      paintGridBorder(handle(), isEnabledHere());
+      return result;
     case WM_ERASEBKGND: return 1;
     case WM_SIZE: onSize(); return 0;
     case WM_VSCROLL: onScroll(LOWORD(wParam)); return 0;
     case WM_MOUSEWHEEL: onWheel(GET_WHEEL_DELTA_WPARAM(wParam)); return 0;
-    case WM_ENABLE:
+    case WM_ENABLE: RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME); return 0;
     case WM_SETFOCUS:
     case WM_KILLFOCUS: repaint(); return 0;
     case WM_SETCURSOR: {

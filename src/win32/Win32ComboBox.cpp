@@ -4,6 +4,7 @@
 
 #include "platform/RunTimeError.h"
 #include "text/LineEnds.h"
+#include "win32/ComboLine.h"
 #include "win32/Dpi.h"
 #include "win32/Text.h"
 
@@ -97,6 +98,11 @@ std::optional<LRESULT> Win32ComboBox::onMessage(UINT message, WPARAM wParam, LPA
   // Turning the mouse wheel over a closed box never changes it.
   if (message == WM_MOUSEWHEEL && send(CB_GETDROPPEDSTATE) == FALSE) {
     return SendMessageW(GetParent(handle()), message, wParam, lParam);
+  }
+  if (message == WM_SIZE) {
+    const LRESULT done = callSystem(message, wParam, lParam);
+    centerLineOfCombo(handle(), TextMeasure(handle(), fontHandle()).lineHeight());
+    return done;
   }
   return std::nullopt;
 }

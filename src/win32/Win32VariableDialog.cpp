@@ -81,7 +81,7 @@ void Win32VariableDialog::layOut() {
   RECT rest{};
   GetClientRect(window(), &rest);
   InflateRect(&rest, -spaces.gap, -spaces.gap);
-  const int frame = spaces.frameTop + spaces.lineHeight + 2 * spaces.gap;
+  const int frame = spaces.frameTop + spaces.lineHeight + spaces.gap + spaces.gap / 3;
 
   const RECT name = cutTop(rest, frame, spaces.gap);
   c.fraValue.place(name);

@@ -5,6 +5,9 @@
 
 #include "TestWindow.h"
 #include "Win32OwnDesktop.h"
+#include "win32/CellEditor.h"
+#include "win32/Dpi.h"
+#include "win32/Fonts.h"
 #include "win32/Text.h"
 // needs windows.h
 #include <objbase.h>
@@ -56,6 +59,22 @@ TEST_F(Win32EditorTest, EscapeGivesTheValueBack) {
   EXPECT_EQ(value(1), "7");
   EXPECT_FALSE(grid().isEditing());
   EXPECT_EQ(GetFocus(), view());
+}
+
+// Rows are higher than a box of the system's where the screen is scaled.
+TEST_F(Win32EditorTest, AListFillsItsCellWithItsTextInTheMiddle) {
+  const FontHandle font = makeFont(systemFont(USER_DEFAULT_SCREEN_DPI));
+  CellEditor list(view(), {"slow", "fast"}, font, USER_DEFAULT_SCREEN_DPI, {});
+  for (const LONG height : {60L, 24L}) {
+    list.place({10, 10, 200, 10 + height});
+    RECT box{};
+    RECT text{};
+    GetWindowRect(GetParent(list.line()), &box);
+    GetWindowRect(list.line(), &text);
+    EXPECT_EQ(box.bottom - box.top, height);
+    const int textHeight = TextMeasure(list.line(), font.get()).lineHeight();
+    EXPECT_NEAR(2 * (text.top - box.top) + textHeight, height, 1) << "as much room above as below";
+  }
 }
 
 TEST_F(Win32EditorTest, TabGoesFromValueToValueAndThenOn) {

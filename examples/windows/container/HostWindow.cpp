@@ -3,8 +3,17 @@
 namespace {
 
 constexpr const wchar_t* className = L"mavCycEd.Example.Container";
-constexpr int margin = 8;
-constexpr int buttonHeight = 26;
+
+// A length on the screen as it is scaled.
+int scaled(int length) {
+  const HDC screen = GetDC(nullptr);
+  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+  ReleaseDC(nullptr, screen);
+  return MulDiv(length, dpi, USER_DEFAULT_SCREEN_DPI);
+}
+
+const int margin = scaled(8);
+const int buttonHeight = scaled(26);
 
 // A text as an argument for COM.
 class Text {
@@ -30,11 +39,12 @@ HostWindow::HostWindow() {
   description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   description.lpszClassName = className;
   RegisterClassW(&description);
-  window_ = CreateWindowExW(0, className, L"Two editors", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, 0, 1000, 600,
-                            nullptr, nullptr, module, nullptr);
+  window_ = CreateWindowExW(0, className, L"Two editors", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, 0, scaled(1000),
+                            scaled(600), nullptr, nullptr, module, nullptr);
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  button_ = CreateWindowExW(0, L"BUTTON", L"Hand back", WS_CHILD | WS_VISIBLE | WS_TABSTOP, margin, margin, 120,
+  button_ = CreateWindowExW(0, L"BUTTON", L"Hand back", WS_CHILD | WS_VISIBLE | WS_TABSTOP, margin, margin, scaled(120),
                             buttonHeight, window_, nullptr, module, nullptr);
+  SendMessageW(button_, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), TRUE);
   const RECT small{0, 0, 100, 100};
   left_ = ControlSite::create(window_, small);
   right_ = ControlSite::create(window_, small);
