@@ -161,9 +161,19 @@ void EditorScreen::nameForPeople() {
   controls_.cmdDel.setAccessibleName(L"Delete variable");
 }
 
-void EditorScreen::setHelp(const std::function<void(HWND)>& help) {
-  panel_.setHelp(help);
-  variableDialogs_.setHelp(help);
+void EditorScreen::setHelp(const std::function<void(HWND, HelpPage)>& help) {
+  panel_.setHelp([this, help](HWND over) { help(over, helpPage()); });
+  variableDialogs_.setHelp([help](HWND over) { help(over, HelpPage::Variables); });
+}
+
+// The page of the part that has the keyboard.
+HelpPage EditorScreen::helpPage() {
+  const HWND focus = GetFocus();
+  const auto isIn = [focus](HWND window) { return focus == window || IsChild(window, focus) != FALSE; };
+  if (isIn(controls_.GrdAtom.view().handle())) return HelpPage::Values;
+  const bool isVariables =
+      isIn(controls_.lstVariables.handle()) || isIn(controls_.cmdIns.handle()) || isIn(controls_.cmdDel.handle());
+  return isVariables ? HelpPage::Variables : HelpPage::Screen;
 }
 
 bool EditorScreen::translate(MSG& message) const {

@@ -7,6 +7,7 @@
 
 #include "control/ControlScreen.h"
 #include "win32/CommandGate.h"
+#include "win32/Help.h"
 #include "win32/Module.h"
 #include "win32/PanelWindow.h"
 #include "win32/Win32Button.h"
@@ -83,7 +84,7 @@ class EditorScreen {
   void setModality(std::function<void(bool)> modality) { variableDialogs_.setModality(std::move(modality)); }
 
   /// What F1 does in the editor and in its variable dialog.
-  void setHelp(const std::function<void(HWND)>& help);
+  void setHelp(const std::function<void(HWND over, HelpPage page)>& help);
 
   ControlScreen controls();
   EditorControls& windows() { return controls_; }
@@ -98,6 +99,7 @@ class EditorScreen {
   void layOutSelectedMacro(const RECT& place);
   void layOutCycle(const RECT& place);
   void connectKeys();
+  HelpPage helpPage();
   void nameForPeople();
 
   std::optional<ThemedScope> themed_{std::in_place};  // while the windows are made

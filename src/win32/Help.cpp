@@ -22,16 +22,24 @@ bool exists(const std::wstring& file) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
+std::wstring nameOf(HelpPage page) {
+  switch (page) {
+    case HelpPage::Values: return L"values.html";
+    case HelpPage::Variables: return L"variables.html";
+    default: return L"screen.html";
+  }
+}
+
 void say(HWND over, const std::string& text, platform::MessageBox& messageBox) {
   messageBox.messageBox(reinterpret_cast<platform::WindowHandle>(over), text, "mavCycEd", MB_OK | MB_ICONWARNING);
 }
 
 }  // namespace
 
-bool showInSystemHelp(HWND over, const std::wstring& file) {
-  constexpr UINT firstPage = 0;
+bool showInSystemHelp(HWND over, const std::wstring& file, const std::wstring& page) {
+  constexpr UINT showPage = 0;
   static HtmlHelp* const viewer = systemViewer();
-  if (viewer != nullptr && viewer(over, file.c_str(), firstPage, 0) != nullptr) return true;
+  if (viewer != nullptr && viewer(over, (file + L"::/" + page).c_str(), showPage, 0) != nullptr) return true;
   constexpr INT_PTR lastError = 32;
   return reinterpret_cast<INT_PTR>(ShellExecuteW(over, L"open", file.c_str(), nullptr, nullptr, SW_SHOWNORMAL)) >
          lastError;
@@ -49,10 +57,11 @@ std::wstring ownHelpFile() {
   return path + L"mavCycEd.chm";
 }
 
-void showHelp(HWND over, const std::wstring& file, const HelpViewer& viewer, platform::MessageBox& messageBox) {
+void showHelp(HWND over, HelpPage page, const std::wstring& file, const HelpViewer& viewer,
+              platform::MessageBox& messageBox) {
   if (!exists(file)) {
     say(over, "The help file is missing: " + fromWide(file), messageBox);
-  } else if (!viewer(over, file)) {
+  } else if (!viewer(over, file, nameOf(page))) {
     say(over, "Nothing here can show the help file: " + fromWide(file), messageBox);
   }
 }

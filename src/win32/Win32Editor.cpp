@@ -21,9 +21,8 @@ Surroundings::Surroundings(HWND parent, std::unique_ptr<platform::XmlDocumentFac
     : xmlDocuments(std::move(documents)),
       screen(parent, given.gridTimer),
       services(completed(std::move(given), screen)) {
-  screen.setHelp([file = services.helpFile, viewer = services.helpViewer, messageBox = services.messageBox](HWND over) {
-    showHelp(over, file, viewer, *messageBox);
-  });
+  screen.setHelp([file = services.helpFile, viewer = services.helpViewer, messageBox = services.messageBox](
+                     HWND over, HelpPage page) { showHelp(over, page, file, viewer, *messageBox); });
 }
 
 Win32Editor::Win32Editor(HWND parent, std::unique_ptr<platform::XmlDocumentFactory> xmlDocuments,

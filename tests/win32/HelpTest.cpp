@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "TestWindow.h"
 #include "win32/Module.h"
@@ -41,10 +44,20 @@ TEST(Win32Help, F1ShowsTheHelpWhereverTheKeyboardIs) {
   type(grid, L"2");
   const HWND line = editor.windows().GrdAtom.view().cellEdit().line();
   ASSERT_NE(line, nullptr);
-  const std::array<HWND, 5> windows{line, grid, editor.windows().lstAtomSequence.handle(),
-                                    editor.windows().cmdDefault.handle(),
-                                    editor.windows().txtCycleDescription.handle()};
-  for (const HWND window : windows) pressF1(window);
+  const EditorControls& w = editor.windows();
+  const std::vector<std::pair<HWND, std::wstring>> windows{{line, L"values.html"},
+                                                           {grid, L"values.html"},
+                                                           {w.lstAtomSequence.handle(), L"screen.html"},
+                                                           {w.cmdDefault.handle(), L"screen.html"},
+                                                           {w.txtCycleDescription.handle(), L"screen.html"},
+                                                           {w.lstVariables.handle(), L"variables.html"},
+                                                           {w.cmdIns.handle(), L"variables.html"}};
+  for (const auto& [window, page] : windows) {
+    SetFocus(window);
+    pressF1(window);
+    ASSERT_FALSE(editor.helpShown.empty());
+    EXPECT_EQ(editor.helpShown.back().page, page);
+  }
   ASSERT_EQ(editor.helpShown.size(), windows.size());
   EXPECT_EQ(editor.helpShown[0].file, thisProgram());
   EXPECT_EQ(editor.helpShown[0].over, editor.editor().screen().window());
@@ -73,6 +86,7 @@ TEST(Win32Help, F1ShowsTheHelpOverTheVariableDialog) {
   settle();
   ASSERT_EQ(editor.helpShown.size(), 1U);
   EXPECT_EQ(editor.helpShown[0].over, dialogWindow);
+  EXPECT_EQ(editor.helpShown[0].page, L"variables.html");
 }
 
 TEST(Win32Help, SaysWhatIsMissing) {

@@ -77,6 +77,7 @@ class TestEditor {
   struct HelpShown {
     HWND over;
     std::wstring file;
+    std::wstring page;
   };
   std::vector<HelpShown> helpShown;
   std::wstring helpFile;
@@ -94,8 +95,8 @@ class TestEditor {
           if (onMessage) onMessage();
         });
     services.helpFile = helpFile;
-    services.helpViewer = [this](HWND over, const std::wstring& file) {
-      helpShown.push_back({over, file});
+    services.helpViewer = [this](HWND over, const std::wstring& file, const std::wstring& page) {
+      helpShown.push_back({over, file, page});
       return hasHelpViewer;
     };
     return services;
