@@ -1,8 +1,6 @@
 #include "win32/Win32ListBox.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
 
 #include "platform/RunTimeError.h"
 #include "win32/Dpi.h"
@@ -217,7 +215,11 @@ std::optional<LRESULT> Win32ListBox::onKey(UINT message, WPARAM wParam, LPARAM l
     case VK_DELETE: tell(onDelete_); return 0;
     case VK_RETURN: tell(onReturn_); return 0;
     case VK_SPACE:
-      if (control && index_ >= 0) choose(-1);
+      if (control) {
+        if (index_ >= 0) choose(-1);
+      } else if (itemCount() > 0) {
+        choose(index_ >= 0 ? index_ : static_cast<int>(send(LB_GETCARETINDEX)));
+      }
       return 0;
     default: break;
   }
@@ -228,20 +230,28 @@ std::optional<LRESULT> Win32ListBox::onKey(UINT message, WPARAM wParam, LPARAM l
   return 0;
 }
 
-// The next item that begins with a typed character, as a list box with texts of its own finds it.
+// The next item that begins with what is typed without a pause. The same character again and again goes from one item
+// to the next.
 bool Win32ListBox::searchFor(wchar_t character) {
   if (character <= L' ' || itemCount() == 0) return true;
-  const auto folded = [](wchar_t c) {
-    return std::bit_cast<std::uintptr_t>(CharUpperW(std::bit_cast<LPWSTR>(std::uintptr_t{c})));
-  };
+  constexpr ULONGLONG pause = 1000;
+  const ULONGLONG now = GetTickCount64();
+  if (now - searchedAt_ > pause) searched_.clear();
+  searchedAt_ = now;
+  CharUpperBuffW(&character, 1);
+  searched_ += character;
+  const bool isOne = searched_.find_first_not_of(character) == std::wstring::npos;
+  const std::wstring wanted = isOne ? std::wstring(1, character) : searched_;
   const int count = itemCount();
-  for (int step = 1; step <= count; ++step) {
-    const int index = (index_ + step) % count;
-    const std::wstring text = toWide(itemText(index).substr(0, 4));
-    if (!text.empty() && folded(text.front()) == folded(character)) {
-      choose(index);
-      return true;
-    }
+  const int first = std::max(index_, 0) + (isOne && index_ >= 0 ? 1 : 0);
+  for (int step = 0; step < count; ++step) {
+    const int index = (first + step) % count;
+    constexpr std::size_t bytesPerCharacter = 4;
+    std::wstring text = toWide(itemText(index).substr(0, bytesPerCharacter * wanted.size())).substr(0, wanted.size());
+    CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
+    if (text != wanted) continue;
+    if (index != index_ || isOne) choose(index);
+    return true;
   }
   return true;
 }

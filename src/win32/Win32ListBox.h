@@ -87,6 +87,8 @@ class Win32ListBox : public platform::ListBox, public NativeWindow {
   int lineCount_ = 0;
   int index_ = -1;
   std::size_t longest_ = 0;  // of its own items, in bytes
+  std::wstring searched_;    // what was typed without a pause
+  ULONGLONG searchedAt_ = 0;
   std::function<void()> onDelete_;
   std::function<void()> onReturn_;
   std::optional<platform::Font> itemFont_;

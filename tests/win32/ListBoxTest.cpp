@@ -58,6 +58,24 @@ TEST_F(Win32ListBoxTest, KeysMoveTheSelection) {
   EXPECT_THAT(events_, ElementsAre("click 0", "click 1", "click 2", "click 1"));
 }
 
+TEST_F(Win32ListBoxTest, SpaceSelectsAgain) {
+  list_.assign({"alpha", "beta"});
+  list_.setIndex(1);
+  key(list_.handle(), VK_SPACE);
+  EXPECT_THAT(events_, ElementsAre("click 1", "click 1"));
+  EXPECT_EQ(list_.index(), 1);
+}
+
+TEST_F(Win32ListBoxTest, WhatIsTypedWithoutAPauseIsOneText) {
+  list_.assign({"01 MIX", "02 MIX", "10 MIX", "11 MIX", "12 MIX"});
+  for (const wchar_t digit : {L'1', L'2'}) SendMessageW(list_.handle(), WM_CHAR, digit, 1);
+  EXPECT_THAT(events_, ElementsAre("click 2", "click 4"));
+  events_.clear();
+  Sleep(1100);
+  for (const wchar_t digit : {L'0', L'0'}) SendMessageW(list_.handle(), WM_CHAR, digit, 1);
+  EXPECT_THAT(events_, ElementsAre("click 0", "click 1"));
+}
+
 TEST_F(Win32ListBoxTest, TheWindowKeepsNoTexts) {
   constexpr int lines = 100'000;
   list_.assign(std::vector<std::string>(lines, "01 MIX"));
