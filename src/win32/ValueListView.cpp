@@ -272,7 +272,7 @@ bool ValueListView::onKey(WPARAM key) {
     copyCurrent();
     return true;
   }
-  const bool opens = isPlain() && (key == VK_F2 || key == VK_RETURN);
+  const bool opens = isPlain() && (key == VK_F2 || (key == VK_RETURN && enterOpens_));
   const bool deletes = isPlain() && (key == VK_DELETE || key == VK_BACK);
   const bool pastes = (isDown(VK_CONTROL) && key == 'V') || (isDown(VK_SHIFT) && key == VK_INSERT);
   if (opens || deletes || pastes) {
@@ -353,7 +353,8 @@ std::optional<LRESULT> ValueListView::onMessage(UINT message, WPARAM wParam, LPA
     case WM_CONTEXTMENU: onContextMenu(placeOf(lParam)); return 0;
     case WM_GETDLGCODE: {
       const auto* const asked = reinterpret_cast<const MSG*>(lParam);
-      const bool isEnter = asked != nullptr && asked->wParam == VK_RETURN && rows_.rows.currentRow() != 0;
+      const bool isEnter =
+          asked != nullptr && asked->wParam == VK_RETURN && enterOpens_ && rows_.rows.currentRow() != 0;
       return DLGC_WANTARROWS | DLGC_WANTCHARS | (isEnter ? DLGC_WANTMESSAGE : 0);
     }
     case WM_SYSKEYDOWN:

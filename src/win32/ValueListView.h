@@ -44,6 +44,9 @@ class ValueListView : public NativeWindow {
   void setScreenFont(const FontHandle& font, int dpi) override;
   AccessibleItems* accessibleItems() override { return &accessibleItems_; }
   void setToolTip(const std::string& text) { toolTip_.setText(text); }
+  /// Whether Enter opens the editor of the current row's value, as F2 does; it does unless the window has another use
+  /// for it.
+  void setEnterOpens(bool opens) { enterOpens_ = opens; }
 
   /// The rows have changed: their number, or what stands in them.
   void rowsChanged();
@@ -101,7 +104,8 @@ class ValueListView : public NativeWindow {
   std::optional<platform::Font> ownFont_;
   int dpi_ = USER_DEFAULT_SCREEN_DPI;
   POINT menuPlace_{};
-  bool dragging_ = false;    // the divider
+  bool dragging_ = false;  // the divider
+  bool enterOpens_ = true;
   bool listWanted_ = false;  // the mouse button went down on an arrow
   int wheel_ = 0;            // what is left of the wheel's last turn
   ToolTip toolTip_;
