@@ -19,7 +19,7 @@ check_format() {
 }
 
 check_scripts() {
-  shellcheck --external-sources --source-path=SCRIPTDIR *.sh scripts/*.sh .ci/run ||
+  shellcheck --external-sources --source-path=SCRIPTDIR ./*.sh scripts/*.sh .ci/run ||
     die "shellcheck found the above."
   say "shellcheck: no findings"
 }

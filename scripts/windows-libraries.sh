@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154 # root is setup.sh's
 # The libraries that the Windows programs are linked with, built from the sources of Debian's packages, in the version
 # that this machine has installed. Sourced after setup.sh, not run.
 
@@ -17,6 +17,7 @@ quietly() {
 # need not name any.
 list_source_archives() {
   local uri suite component known=""
+  # shellcheck disable=SC2016 # the words in the format are apt-get's
   while IFS='|' read -r uri suite component; do
     [[ "$known" != *"|$uri $suite $component|"* ]] || continue
     known+="|$uri $suite $component|"

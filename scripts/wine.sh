@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154 # root is setup.sh's
 # Wine with a folder of its own, for the tests of the Windows programs. Sourced after setup.sh, not run.
 
 export WINEPREFIX="$root/build/wine"
