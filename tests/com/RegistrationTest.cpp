@@ -52,6 +52,12 @@ class RegistrationTest : public ComTest {
     return library_.function<HRESULT STDMETHODCALLTYPE(BOOL, LPCWSTR)>("DllInstall")(on ? TRUE : FALSE, commandLine);
   }
 
+  // Windows has this key for every user; Wine makes it with the first entry.
+  void SetUp() override {
+    HKEY key = nullptr;
+    ASSERT_EQ(RegCreateKeyW(HKEY_CURRENT_USER, L"Software\\Classes", &key), ERROR_SUCCESS);
+    RegCloseKey(key);
+  }
   void TearDown() override {
     EXPECT_EQ(machine(false), S_OK);
     EXPECT_EQ(install(false, L"user"), S_OK);
