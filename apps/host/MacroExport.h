@@ -10,6 +10,6 @@ QString macroFileOf(const QString& macroText);
 
 /// What a macro text does not carry of a cycle document that the editor handed back, as sentences; empty when a cycle
 /// that was written as a macro text comes back whole.
-QStringList lostInMacroText(const QString& cycle);
+QStringList lostInMacroText(const QString& document);
 
 }  // namespace mavCycEd::host

@@ -9,6 +9,7 @@ namespace mavCycEd::memory {
 class Lifetime {
  public:
   Lifetime() = default;
+  ~Lifetime() = default;
   Lifetime(const Lifetime&) = delete;
   Lifetime& operator=(const Lifetime&) = delete;
 

@@ -34,6 +34,7 @@ std::string MemoryListBox::itemText(int index) const {
 
 std::vector<std::string> MemoryListBox::items() const {
   std::vector<std::string> texts;
+  texts.reserve(static_cast<std::size_t>(itemCount()));
   for (int i = 0; i < itemCount(); ++i) texts.push_back(itemText(i));
   return texts;
 }

@@ -112,7 +112,7 @@ void CellEdit::endTelling() {
 
 void CellEdit::release(QWidget& editor) {
   if (telling_ > 0) {
-    closed_.push_back(&editor);
+    closed_.emplace_back(&editor);
   } else {
     editor.deleteLater();
   }

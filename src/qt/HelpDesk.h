@@ -15,6 +15,8 @@ class HelpDesk : public QObject {
  public:
   explicit HelpDesk(QWidget& control);
   ~HelpDesk() override;
+  HelpDesk(const HelpDesk&) = delete;
+  HelpDesk& operator=(const HelpDesk&) = delete;
 
   void show(HelpPage page);
   /// Shows a page over a window that is modal: the operator can use both.

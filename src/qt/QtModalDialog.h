@@ -17,6 +17,8 @@ class QtModalDialog : public QObject, public platform::ModalDialog {
   /// The window stands over `owner` and is the owner's child.
   QtModalDialog(const char* name, QWidget* owner);
   ~QtModalDialog() override;
+  QtModalDialog(const QtModalDialog&) = delete;
+  QtModalDialog& operator=(const QtModalDialog&) = delete;
 
   ModalWindow* widget() const { return window_; }
 

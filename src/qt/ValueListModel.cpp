@@ -66,7 +66,7 @@ QVariant ValueListModel::data(const QModelIndex& index, int role) const {
 QVariant ValueListModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
   if (role == Qt::DisplayRole) return toQt(title(section));
-  if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+  if (role == Qt::TextAlignmentRole) return {Qt::AlignLeft | Qt::AlignVCenter};
   return {};
 }
 
