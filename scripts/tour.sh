@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Makes the pictures of the README and the help again, in docs/images/ and docs/help/images/: the scenario working-day, played on the Qt edition.
+# Makes the pictures of the README and the help again, in docs/images/ and docs/help/images/: the scenario
+# working-day, played on the Qt edition.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 
