@@ -15,7 +15,7 @@ MenuList::MenuList(std::vector<std::string> captions, QWidget* parent) : QListVi
   setModel(model);
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
-  setFrameShape(NoFrame);
+  setCurrentIndex({});  // or the focus would make the first entry current, and Enter choose it unseen
   setAccessibleName(parent->accessibleName());
   connect(this, &QListView::clicked, this, [this](const QModelIndex& index) { emit chosen(index.row()); });
 }
@@ -29,16 +29,18 @@ QSize MenuList::sizeHint() const {
   const int text = metrics.horizontalAdvance(toQtLine(model.longest()));
   const int widest = mostCharacters * metrics.averageCharWidth();
   return {std::min(text, widest) + verticalScrollBar()->sizeHint().width() + margin,
-          std::min(rows, model.count()) * sizeHintForRow(0)};
+          std::min(rows, model.count()) * sizeHintForRow(0) + 2 * frameWidth()};
 }
 
 void MenuList::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (isEnter && currentIndex().isValid()) {
+  if (!isEnter) {
+    QListView::keyPressEvent(event);
+  } else if (currentIndex().isValid()) {
     emit chosen(currentIndex().row());
-    return;
+  } else {
+    setCurrentIndex(model()->index(0, 0));
   }
-  QListView::keyPressEvent(event);
 }
 
 void MenuList::showEvent(QShowEvent* event) {

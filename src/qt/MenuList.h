@@ -6,7 +6,8 @@
 
 namespace mavCycEd::qt {
 
-/// The entries of a long pop-up menu, as a list in it. A click or Enter chooses; typing finds; Esc is the menu's.
+/// The entries of a long pop-up menu, as a list in it. A click or Enter chooses; typing finds; Esc is the menu's. As in
+/// a menu no entry is active at first, and Enter then leads to the first one.
 class MenuList : public QListView {
   Q_OBJECT
 

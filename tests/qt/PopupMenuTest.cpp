@@ -138,6 +138,25 @@ TEST_F(LongPopupMenu, EnterChoosesWhatWasTyped) {
   EXPECT_THAT(chosen, ElementsAre(44));
 }
 
+// As in a menu: nothing is active until the operator makes it so.
+TEST_F(LongPopupMenu, EnterAtOnceLeadsToTheFirstEntry) {
+  EXPECT_FALSE(list()->currentIndex().isValid());
+  QTest::keyClick(list(), Qt::Key_Return);
+  EXPECT_TRUE(menu.widget()->isVisible());
+  EXPECT_THAT(chosen, IsEmpty());
+  QTest::keyClick(list(), Qt::Key_Return);
+  EXPECT_FALSE(menu.widget()->isVisible());
+  EXPECT_THAT(chosen, ElementsAre(0));
+}
+
+TEST_F(LongPopupMenu, FirstArrowKeyLeadsToTheFirstEntry) {
+  QTest::keyClick(list(), Qt::Key_Down);
+  QTest::keyClick(list(), Qt::Key_Return);
+  EXPECT_THAT(chosen, ElementsAre(0));
+}
+
+TEST_F(LongPopupMenu, HasABorder) { EXPECT_GT(list()->frameWidth(), 0); }
+
 TEST_F(LongPopupMenu, ClickChooses) {
   const QPoint place = list()->visualRect(list()->model()->index(2, 0)).center();
   QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, place);
