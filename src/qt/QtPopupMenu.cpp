@@ -2,6 +2,7 @@
 
 #include <QCursor>
 #include <QPointer>
+#include <QScreen>
 #include <QWidgetAction>
 #include <cstddef>
 
@@ -12,8 +13,13 @@
 namespace mavCycEd::qt {
 namespace {
 
-// Beyond these a menu covers the screen, and takes the square of its entries to build.
-constexpr std::size_t mostEntries = 500;
+// A menu that is higher than the screen goes on in further columns, which soon lead beyond it; and it takes the square
+// of its entries to build.
+bool fitInMenu(std::size_t entries, const QMenu& menu) {
+  constexpr int around = 10;  // more than most styles need
+  const int entryHeight = menu.fontMetrics().height() + around;
+  return entries <= static_cast<std::size_t>(menu.screen()->availableSize().height() / entryHeight);
+}
 
 }  // namespace
 
@@ -44,7 +50,7 @@ void QtPopupMenu::fill() {
     action->deleteLater();  // it may be the one that is being triggered
   }
   const std::vector<int> indexes = visibleIndexes();
-  menu_->addActions(indexes.size() <= mostEntries ? entries(indexes) : QList<QAction*>{listEntry(indexes)});
+  menu_->addActions(fitInMenu(indexes.size(), *menu_) ? entries(indexes) : QList<QAction*>{listEntry(indexes)});
 }
 
 QList<QAction*> QtPopupMenu::entries(const std::vector<int>& indexes) {

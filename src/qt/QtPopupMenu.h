@@ -27,7 +27,7 @@ class PopupMenuWidget : public QMenu {
   Captions captions_;
 };
 
-/// A pop-up menu. More entries than a menu is good for are shown as a list in it, which scrolls and finds what is
+/// A pop-up menu. More entries than the screen is high are shown as a list in it, which scrolls and finds what is
 /// typed.
 class QtPopupMenu : public QObject, public platform::MenuItems {
   Q_OBJECT

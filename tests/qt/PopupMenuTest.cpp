@@ -110,6 +110,21 @@ TEST_F(PopupMenu, ClosesWhenItsItemsChangeBehindIt) {
   EXPECT_THAT(shown(), ElementsAre("Default:6"));
 }
 
+// Columns that follow one another would soon lead beyond the screen, where no mouse comes.
+TEST_F(PopupMenu, NeverHasASecondColumn) {
+  for (int index = 1; index < 50; ++index) {
+    menu.createItem(index);
+    menu.setItemCaption(index, "Vial " + std::to_string(index));
+    menu.popUp();
+    const QList<QAction*> actions = menu.widget()->actions();
+    for (QAction* const each : actions) {
+      ASSERT_EQ(menu.widget()->actionGeometry(each).left(), menu.widget()->actionGeometry(actions.constFirst()).left())
+          << index + 1 << " entries";
+    }
+    menu.widget()->close();
+  }
+}
+
 class LongPopupMenu : public PopupMenu {
  protected:
   LongPopupMenu() {
