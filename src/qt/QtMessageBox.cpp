@@ -6,11 +6,14 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStringList>
 #include <algorithm>
+#include <string>
 
 #include "qt/Text.h"
 #include "qt/WindowHandles.h"
 #include "text/LineEnds.h"
+#include "text/Strings.h"
 
 namespace mavCycEd::qt {
 namespace {
@@ -37,20 +40,40 @@ void showWholeTitle(QMessageBox& box) {
   layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
 }
 
+// The message as far as lines on the screen go: breaking a word into lines takes Qt the square of its length.
+QString inLines(std::string_view message) {
+  QStringList lines;
+  const std::string whole = text::toLf(message);
+  for (const std::string_view line : text::split(whole, '\n')) lines.append(toQtLine(line));
+  return lines.join(QLatin1Char('\n'));
+}
+
+// How high the message becomes when the box breaks its lines, at the least width that it does this for.
+int brokenHeight(const QLabel& text, int width) {
+  const QFontMetrics metrics = text.fontMetrics();
+  int lines = 0;
+  for (const QString& line : text.text().split(QLatin1Char('\n'))) {
+    lines += 1 + metrics.horizontalAdvance(line) / width;
+  }
+  return lines * metrics.lineSpacing();
+}
+
 // A list of uses may be longer than the screen is high: its text is scrolled, so that the button stays within reach.
 void keepOnScreen(QMessageBox& box) {
   auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
   if (text == nullptr || box.layout() == nullptr || box.layout()->indexOf(text) < 0) return;
-  const QSize room = box.screen()->availableSize() * 3 / 4;
-  const QSize wanted = text->sizeHint();
-  if (wanted.height() <= room.height()) return;
+  constexpr int besideText = 100;  // the icon and the margins
+  constexpr int brokenFrom = 500;
+  const QSize screen = box.screen()->availableSize();
+  const int height = screen.height() * 3 / 4;
+  if (brokenHeight(*text, std::min(brokenFrom, screen.width() / 2) - besideText) <= height) return;
   auto* const area = new QScrollArea(&box);
   delete box.layout()->replaceWidget(text, area);
   area->setFrameShape(QFrame::NoFrame);
   area->setWidget(text);
   area->setWidgetResizable(true);
-  const int width = wanted.width() + area->verticalScrollBar()->sizeHint().width();
-  area->setMinimumSize(std::min(width, room.width()), room.height());
+  const int width = text->sizeHint().width() + area->verticalScrollBar()->sizeHint().width();
+  area->setMinimumSize(std::min(width, (screen.width() - besideText) / 2), height);
 }
 
 }  // namespace
@@ -61,7 +84,7 @@ int QtMessageBox::messageBox(platform::WindowHandle owner, std::string_view mess
   if (over == nullptr && control_) over = control_->window();
   // The box goes with the window that it stands over, also while it is shown.
   const QPointer<QMessageBox> box(
-      new QMessageBox(iconOf(flags), toQt(caption), toQt(text::toLf(message)), QMessageBox::Ok, over));
+      new QMessageBox(iconOf(flags), toQt(caption), inLines(message), QMessageBox::Ok, over));
   box->setTextFormat(Qt::PlainText);
   showWholeTitle(*box);
   keepOnScreen(*box);

@@ -111,6 +111,32 @@ TEST(MessageBox, TextHigherThanTheScreenIsScrolled) {
   });
 }
 
+TEST(MessageBox, LongLinesThatWrapBeyondTheScreenAreScrolled) {
+  QWidget window;
+  window.show();
+  qt::QtMessageBox messages(&window);
+  std::string line;
+  for (int i = 1; i <= 5000; ++i) line += "word" + std::to_string(i) + ' ';
+  answered(messages, line, platform::Exclamation, [](QMessageBox& box) {
+    EXPECT_LT(box.height(), box.screen()->availableSize().height());
+    EXPECT_LT(box.width(), box.screen()->availableSize().width());
+    EXPECT_TRUE(box.rect().contains(box.button(QMessageBox::Ok)->geometry()));
+    const auto* const area = box.findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr);
+    EXPECT_LE(area->widget()->width(), area->viewport()->width()) << "whole lines are in view";
+  });
+}
+
+TEST(MessageBox, EndlessWordIsShownAtOnce) {
+  QWidget window;
+  window.show();
+  qt::QtMessageBox messages(&window);
+  answered(messages, std::string(200'000, 'x') + "\r\nis refused", platform::Exclamation, [](QMessageBox& box) {
+    EXPECT_LT(box.width(), box.screen()->availableSize().width());
+    EXPECT_LT(box.height(), box.screen()->availableSize().height());
+  });
+}
+
 TEST(MessageBox, ShortTextHasNoScrollBar) {
   QWidget window;
   window.show();
