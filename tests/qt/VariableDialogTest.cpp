@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
+#include <utility>
 
 #include "TestWindow.h"
 #include "qt/QtVariableDialog.h"
@@ -11,6 +12,7 @@ namespace mavCycEd::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class VariableDialog : public testing::Test {
  protected:
@@ -152,6 +154,40 @@ TEST_F(VariableDialog, TypedValueIsEndedBeforeOk) {
     QTest::mouseClick(&widget("OKButton"), Qt::LeftButton);
   });
   EXPECT_THAT(log, ElementsAre("5", "OK"));
+}
+
+TEST_F(VariableDialog, OptionsTellEachChangeOnceHoweverItIsMade) {
+  std::vector<std::string> clicks;
+  dialog.optNrValue().setCaption("&Numeric Value");
+  dialog.optObjValue().setCaption("&Object");
+  dialog.optNrValue().setEvents({[&] { clicks.emplace_back("number"); }});
+  dialog.optObjValue().setEvents({[&] { clicks.emplace_back("object"); }});
+  const auto now = [&clicks] { return std::exchange(clicks, {}); };
+  dialog.optNrValue().select();
+  EXPECT_THAT(now(), ElementsAre("number"));
+  show([&] {
+    auto& number = widget("optNrValue");
+    auto& object = widget("optObjValue");
+    QTest::mouseClick(&number, Qt::LeftButton);
+    QTest::keyClick(&number, Qt::Key_Space);
+    QTest::keyClick(&number, Qt::Key_N, Qt::AltModifier);
+    QTest::qWait(300);  // an access key presses for a while
+    EXPECT_THAT(now(), IsEmpty()) << "it is chosen already";
+    QTest::keyClick(&number, Qt::Key_Right);
+    EXPECT_THAT(now(), ElementsAre("object"));
+    QTest::keyClick(&object, Qt::Key_Left);
+    EXPECT_THAT(now(), ElementsAre("number"));
+    object.setFocus();
+    QTest::keyClick(&object, Qt::Key_Space);
+    QTest::keyClick(&object, Qt::Key_Space);
+    EXPECT_THAT(now(), ElementsAre("object"));
+    QTest::keyClick(&object, Qt::Key_N, Qt::AltModifier);
+    QTest::qWait(300);
+    EXPECT_THAT(now(), ElementsAre("number"));
+    dialog.optObjValue().select();
+    QTest::mouseClick(&object, Qt::LeftButton);
+    EXPECT_THAT(now(), ElementsAre("object"));
+  });
 }
 
 TEST_F(VariableDialog, OptionsAreOneGroup) {
