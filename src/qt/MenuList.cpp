@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "qt/Text.h"
 #include "qt/TextListModel.h"
@@ -17,7 +18,7 @@ MenuList::MenuList(std::vector<std::string> captions, QWidget* parent) : QListVi
   setEditTriggers(NoEditTriggers);
   setCurrentIndex({});  // or the focus would make the first entry current, and Enter choose it unseen
   setAccessibleName(parent->accessibleName());
-  connect(this, &QListView::clicked, this, [this](const QModelIndex& index) { emit chosen(index.row()); });
+  connect(this, &QListView::clicked, this, [this](const QModelIndex& index) { clicked_ = index.row(); });
 }
 
 QSize MenuList::sizeHint() const {
@@ -41,6 +42,12 @@ void MenuList::keyPressEvent(QKeyEvent* event) {
   } else {
     setCurrentIndex(model()->index(0, 0));
   }
+}
+
+// What is told may destroy the list: Qt's own part comes first.
+void MenuList::mouseReleaseEvent(QMouseEvent* event) {
+  QListView::mouseReleaseEvent(event);
+  if (const int row = std::exchange(clicked_, -1); row >= 0) emit chosen(row);
 }
 
 void MenuList::showEvent(QShowEvent* event) {

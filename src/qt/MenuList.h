@@ -21,7 +21,11 @@ class MenuList : public QListView {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void showEvent(QShowEvent* event) override;
+
+ private:
+  int clicked_ = -1;
 };
 
 }  // namespace mavCycEd::qt

@@ -179,6 +179,16 @@ TEST_F(LongPopupMenu, ClickChooses) {
   EXPECT_THAT(chosen, ElementsAre(3));
 }
 
+TEST_F(LongPopupMenu, MayBeDestroyedByWhatIsChosen) {
+  menu.setEvents({.Click = [this](int index) {
+    chosen.push_back(index);
+    delete menu.widget();
+  }});
+  const QPoint place = list()->visualRect(list()->model()->index(2, 0)).center();
+  QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, place);
+  EXPECT_THAT(chosen, ElementsAre(3));
+}
+
 TEST_F(LongPopupMenu, EscClosesWithoutAChoice) {
   QTest::keyClick(list(), Qt::Key_Escape);
   EXPECT_FALSE(menu.widget()->isVisible());
