@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QListView>
+#include <QPointer>
 #include <QTest>
 
 #include "paramgrid/modControlArray.h"
@@ -187,6 +188,29 @@ TEST_F(LongPopupMenu, MayBeDestroyedByWhatIsChosen) {
   const QPoint place = list()->visualRect(list()->model()->index(2, 0)).center();
   QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, place);
   EXPECT_THAT(chosen, ElementsAre(3));
+}
+
+TEST_F(LongPopupMenu, MayBeDestroyedWhileOpen) {
+  delete menu.widget();
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(LongPopupMenu, ClosesWhenItsItemsChangeBehindIt) {
+  menu.setEvents({.Click = [this](int index) {
+    chosen.push_back(index);
+    menu.removeItem(index);
+    menu.popUp();  // with the list of the former entries still in its event
+  }});
+  menu.removeItem(7);
+  EXPECT_FALSE(menu.widget()->isVisible());
+  menu.popUp();
+  const QPointer<QListView> former(list());
+  QTest::mouseClick(former->viewport(), Qt::LeftButton, {}, former->visualRect(former->model()->index(2, 0)).center());
+  EXPECT_THAT(chosen, ElementsAre(3));
+  EXPECT_TRUE(menu.widget()->isVisible());
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(former.isNull());
+  EXPECT_EQ(list()->model()->index(2, 0).data().toString(), QStringLiteral("Vial 4"));
 }
 
 TEST_F(LongPopupMenu, EscClosesWithoutAChoice) {
