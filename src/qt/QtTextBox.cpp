@@ -1,6 +1,7 @@
 #include "qt/QtTextBox.h"
 
 #include <QInputMethodEvent>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <cstddef>
@@ -24,9 +25,20 @@ bool hasEndlessWord(std::string_view text) {
   return false;
 }
 
+class WordWrappingEdit : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+ protected:
+  void insertFromMimeData(const QMimeData* source) override {
+    if (source != nullptr && hasEndlessWord(fromQt(source->text()))) setLineWrapMode(NoWrap);
+    QPlainTextEdit::insertFromMimeData(source);
+  }
+};
+
 }  // namespace
 
-QtTextBox::QtTextBox(const char* name, QWidget* parent) : edit_(new QPlainTextEdit(parent)) {
+QtTextBox::QtTextBox(const char* name, QWidget* parent) : edit_(new WordWrappingEdit(parent)) {
   edit_->setObjectName(QLatin1String(name));
   edit_->setTabChangesFocus(true);
   edit_->installEventFilter(this);

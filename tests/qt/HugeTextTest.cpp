@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QListView>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -72,6 +74,16 @@ TEST_F(HugeText, ADescriptionOfOneWordIsShown) {
   EXPECT_EQ(box.lineWrapMode(), QPlainTextEdit::NoWrap);
   load(QStringLiteral("some words"), {}, QStringLiteral("FILL"), QStringLiteral("5"));
   EXPECT_EQ(box.lineWrapMode(), QPlainTextEdit::WidgetWidth);
+}
+
+TEST_F(HugeText, APastedDescriptionOfOneWordIsTaken) {
+  load({}, {}, QStringLiteral("FILL"), QStringLiteral("5"));
+  auto& box = widget<QPlainTextEdit>("txtCycleDescription");
+  box.setFocus();
+  QGuiApplication::clipboard()->setText(QString(1'000'000, QLatin1Char('x')));
+  QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(box.toPlainText().size(), 1'000'000);
+  EXPECT_EQ(box.lineWrapMode(), QPlainTextEdit::NoWrap);
 }
 
 TEST_F(HugeText, NamesAndValuesAreShownAsFarAsALineGoes) {
