@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTextDocumentFragment>
 #include <QTimer>
+#include <QWidgetAction>
 #include <algorithm>
 #include <utility>
 
@@ -263,7 +264,8 @@ void QtDriver::chooseFromMenu(int place) {
   if (place < 0 || static_cast<std::size_t>(place) >= shown->captions().size()) {
     throw StepRefused("The pop-up menu has no entry " + std::to_string(place) + ".");
   }
-  if (auto* const list = shown->findChild<QListView*>()) {
+  if (const auto* const entry = qobject_cast<QWidgetAction*>(shown->actions().constFirst())) {
+    auto* const list = qobject_cast<QListView*>(entry->defaultWidget());
     list->setCurrentIndex(list->model()->index(place, 0));
     return QTest::keyClick(list, Qt::Key_Return);
   }
