@@ -143,7 +143,10 @@ void ValueListView::showCurrentRow() {
 }
 
 void ValueListView::chooseRow(int row) {
-  if (!rows_.rows.isParameterRow(row) || row == rows_.rows.currentRow()) return;
+  if (rows_.rows.isParameterRow(row) && row != rows_.rows.currentRow()) makeCurrent(row);
+}
+
+void ValueListView::makeCurrent(int row) {
   rows_.rows.setCurrentRow(row);
   showCurrentRow();
   if (handle() != nullptr) NotifyWinEvent(EVENT_OBJECT_FOCUS, handle(), OBJID_CLIENT, row);
@@ -207,31 +210,39 @@ void ValueListView::onRelease(POINT) {
 }
 
 void ValueListView::onContextMenu(POINT place) {
+  if (place.x == -1 && place.y == -1) {
+    askForMenuByKey();
+    return;
+  }
   const Lifeline::Watch alive = lifeline_.watch();
   cellEdit_->end();
   if (!alive) return;
-  const bool byKey = place.x == -1 && place.y == -1;
-  if (!byKey) {
-    POINT inside = place;
-    ScreenToClient(handle(), &inside);
-    askForMenu(std::max(geometry_.rowAt(inside.y), 0), geometry_.unitsAt(inside), place);
-    return;
-  }
-  const int row = rows_.rows.currentRow();
-  if (row == 0) return;
-  showCurrentRow();
+  POINT inside = place;
+  ScreenToClient(handle(), &inside);
+  chooseRow(std::max(geometry_.rowAt(inside.y), 0));
+  if (alive) askForMenu(geometry_.unitsAt(inside), place);
+}
+
+// No press comes before such a request that would tell of the row: it is told in any case.
+void ValueListView::askForMenuByKey() {
+  const Lifeline::Watch alive = lifeline_.watch();
+  const int edited = cellEdit_->row();
+  cellEdit_->end();
+  if (!alive) return;
+  const int row = edited != 0 ? edited : rows_.rows.currentRow();
+  if (!rows_.rows.isParameterRow(row)) return;
+  makeCurrent(row);
+  if (!alive) return;
   const RECT cell = geometry_.cell(GridRows::valueColumn, row);
   POINT middle{(cell.left + cell.right) / 2, (cell.top + cell.bottom) / 2};
   const POINT units = geometry_.unitsAt(middle);
   ClientToScreen(handle(), &middle);
-  askForMenu(row, units, middle);
+  askForMenu(units, middle);
 }
 
-void ValueListView::askForMenu(int row, POINT units, POINT place) {
+void ValueListView::askForMenu(POINT units, POINT place) {
   menuPlace_ = place;
-  const Lifeline::Watch alive = lifeline_.watch();
-  chooseRow(row);
-  if (alive) tell(events_.menuAskedFor, static_cast<int>(units.x), static_cast<int>(units.y));
+  tell(events_.menuAskedFor, static_cast<int>(units.x), static_cast<int>(units.y));
 }
 
 bool ValueListView::moveBy(WPARAM key) {

@@ -89,7 +89,9 @@ class ValueListView : public NativeWindow {
   void onMove(POINT place, bool isLeftDown);
   void onRelease(POINT place);
   void onContextMenu(POINT place);
-  void askForMenu(int row, POINT units, POINT place);
+  void askForMenuByKey();
+  void askForMenu(POINT units, POINT place);
+  void makeCurrent(int row);
   bool onKey(WPARAM key);
   bool moveBy(WPARAM key);
   bool onCharacter(WPARAM character);

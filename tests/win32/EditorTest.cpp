@@ -61,6 +61,22 @@ TEST_F(Win32EditorTest, EscapeGivesTheValueBack) {
   EXPECT_EQ(GetFocus(), view());
 }
 
+// The first row of a grid that has just been refilled is current before anybody was told of it.
+TEST_F(Win32EditorTest, TheMenuKeyIsForTheRowThatIsShown) {
+  grid().focusValue(2);
+  SetFocus(view());
+  settle();
+  SendMessageW(editor_.windows().cmdDefault.handle(), BM_CLICK, 0, 0);
+  settle();
+  ASSERT_EQ(grid().Row(), 1);
+  SendMessageW(view(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(view()), -1);
+  EXPECT_EQ(grid().Row(), 1);
+  ASSERT_TRUE(editor_.windows().mnuSubParam.isWaiting());
+  EXPECT_EQ(editor_.windows().mnuSubParam.itemCaption(0), "Default:5");
+  MSG opening{};
+  PeekMessageW(&opening, editor_.windows().mnuSubParam.opener(), 0, 0, PM_REMOVE);
+}
+
 // Rows are higher than a box of the system's where the screen is scaled.
 TEST_F(Win32EditorTest, AListFillsItsCellWithItsTextInTheMiddle) {
   const FontHandle font = makeFont(systemFont(USER_DEFAULT_SCREEN_DPI));
