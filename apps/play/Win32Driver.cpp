@@ -87,6 +87,22 @@ class Win32Driver::DialogWatch : public MessageWindow {
   std::function<void()> user_;
 };
 
+/// Does something as soon as a message loop runs: that of an open list.
+class Win32Driver::MenuUser : public MessageWindow {
+ public:
+  explicit MenuUser(std::function<void()> use) : use_(std::move(use)) { PostMessageW(handle(), WM_APP, 0, 0); }
+
+ protected:
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message != WM_APP) return MessageWindow::onMessage(message, wParam, lParam);
+    use_();
+    return 0;
+  }
+
+ private:
+  std::function<void()> use_;
+};
+
 Win32Driver::Win32Driver(EditorServices services, CycleEditorErrorHandler onError, std::function<void()> tick)
     : gridTimer_(services.gridTimer),
       tick_(std::move(tick)),
@@ -242,11 +258,23 @@ void Win32Driver::openMenuWith(const std::vector<WPARAM>& keys) {
   settle();
 }
 
+void Win32Driver::openListAnd(const std::function<void()>& useList) {
+  if (!menuMessage_) return;
+  const MSG message = *std::exchange(menuMessage_, std::nullopt);
+  const MenuUser user(useList);
+  DispatchMessageW(&message);
+  settle();
+}
+
 void Win32Driver::chooseFromMenu(int place) {
   const Win32PopupMenu* const shown = openMenu();
   if (shown == nullptr) throw StepRefused("No pop-up menu is open.");
   if (place < 0 || static_cast<std::size_t>(place) >= shown->visibleCaptions().size()) {
     throw StepRefused("The pop-up menu has no entry " + std::to_string(place) + ".");
+  }
+  if (shown->hasMany()) {
+    openListAnd([shown, place] { click(shown->list(), placeOf(shown->list(), place)); });
+    return;
   }
   std::vector<WPARAM> keys(static_cast<std::size_t>(place) + 1, VK_DOWN);
   keys.push_back(VK_RETURN);
@@ -254,7 +282,13 @@ void Win32Driver::chooseFromMenu(int place) {
 }
 
 void Win32Driver::dismissMenu() {
-  if (openMenu() != nullptr) openMenuWith({VK_ESCAPE});
+  const Win32PopupMenu* const shown = openMenu();
+  if (shown == nullptr) return;
+  if (shown->hasMany()) {
+    openListAnd([shown] { key(shown->list(), VK_ESCAPE); });
+  } else {
+    openMenuWith({VK_ESCAPE});
+  }
 }
 
 void Win32Driver::replaceText(std::string_view textBox, const std::string& text) {

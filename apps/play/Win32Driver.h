@@ -68,9 +68,11 @@ class Win32Driver : public ControlDriver {
 
  private:
   class DialogWatch;
+  class MenuUser;
 
   win32::Win32PopupMenu* openMenu() const;
   void openMenuWith(const std::vector<WPARAM>& keys);
+  void openListAnd(const std::function<void()>& useList);
 
   std::shared_ptr<platform::Timer> gridTimer_;
   std::function<void()> tick_;

@@ -29,11 +29,22 @@ std::string encoded(UINT codePage, DWORD flags, std::wstring_view text, BOOL* su
 
 std::wstring toWide(std::string_view text) { return decoded(CP_UTF8, text); }
 
+std::wstring toWideLine(std::string_view text) {
+  constexpr std::size_t mostCharacters = 10'000;
+  constexpr std::size_t mostBytes = 4;  // of a character
+  std::wstring line = toWide(text.substr(0, mostBytes * mostCharacters));
+  if (line.size() > mostCharacters) {
+    line.resize(IS_HIGH_SURROGATE(line[mostCharacters - 1]) ? mostCharacters - 1 : mostCharacters);
+    line += L'\x2026';
+  }
+  return line;
+}
+
 std::string fromWide(std::wstring_view text) { return encoded(CP_UTF8, 0, text, nullptr); }
 
 std::wstring withoutAccessKey(std::string_view text) {
   std::wstring shown;
-  for (const wchar_t character : toWide(text)) shown.append(character == L'&' ? 2 : 1, character);
+  for (const wchar_t character : toWideLine(text)) shown.append(character == L'&' ? 2 : 1, character);
   return shown;
 }
 

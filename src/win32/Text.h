@@ -10,6 +10,10 @@ namespace mavCycEd::win32 {
 /// A text of the editor (UTF-8) for a window.
 std::wstring toWide(std::string_view text);
 
+/// As much of a text as a line on the screen is good for: drawing or measuring more takes time and shows nobody
+/// anything.
+std::wstring toWideLine(std::string_view text);
+
 /// A window's text for the editor (UTF-8).
 std::string fromWide(std::wstring_view text);
 

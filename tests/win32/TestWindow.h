@@ -9,6 +9,7 @@
 
 #include "libxml2/Libxml2DocumentFactory.h"
 #include "memory/MemoryServices.h"
+#include "win32/MessageWindow.h"
 #include "win32/PanelWindow.h"
 #include "win32/Win32Editor.h"
 
@@ -41,6 +42,26 @@ inline void type(HWND window, std::wstring_view text) {
     settle();
   }
 }
+
+/// Does one thing after another while a menu is open.
+class Meanwhile : private MessageWindow {
+ public:
+  explicit Meanwhile(std::vector<std::function<void()>> steps) : steps_(std::move(steps)) {
+    SetTimer(handle(), 1, pause, nullptr);
+  }
+  std::size_t done() const { return next_; }
+
+ private:
+  static constexpr UINT pause = 50;
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message != WM_TIMER) return MessageWindow::onMessage(message, wParam, lParam);
+    if (next_ < steps_.size()) steps_[next_++]();
+    return 0;
+  }
+
+  std::vector<std::function<void()>> steps_;
+  std::size_t next_ = 0;
+};
 
 /// A host's window on the screen.
 class HostWindow : public PanelWindow {
