@@ -72,8 +72,9 @@ class CellEditor::Combo : public NativeWindow {
       : NativeWindow(grid, nullptr, {L"COMBOBOX", CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL}), editor_(editor) {
     constexpr int mostVisibleItems = 20;
     send(CB_SETMINVISIBLE, mostVisibleItems);
+    send(CB_LIMITTEXT, 0);
     for (const std::string& item : editor.list_) {
-      send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(toWide(item).c_str()));
+      send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(toWideLine(item).c_str()));
     }
   }
 
@@ -97,6 +98,7 @@ CellEditor::CellEditor(HWND grid, const std::vector<std::string>& list, const Fo
   if (list_.empty()) {
     line_ = std::make_unique<Line>(*this, grid);
     line_->setScreenFont(font, dpi);
+    SendMessageW(line(), EM_SETLIMITTEXT, 0, 0);  // as much as there is memory for
     return;
   }
   combo_ = std::make_unique<Combo>(*this, grid);

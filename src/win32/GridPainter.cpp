@@ -102,7 +102,7 @@ void GridPainter::paintText(HDC context, RECT place, const std::string& text, in
   place.left += looks_.margin;
   place.right -= looks_.margin;
   SetTextColor(context, GetSysColor(color));
-  DrawTextW(context, toWide(text).c_str(), -1, &place,
+  DrawTextW(context, toWideLine(text).c_str(), -1, &place,
             DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 

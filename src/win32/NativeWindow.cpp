@@ -26,15 +26,23 @@ bool reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
   return true;
 }
 
+namespace {
+
+HWND make(HWND parent, const NativeWindow::Kind& kind) {
+  const DWORD asChild = (kind.style & WS_POPUP) != 0 ? 0 : WS_CHILD | WS_VISIBLE;
+  return CreateWindowExW(kind.extendedStyle, kind.windowClass, L"", kind.style | asChild, 0, 0, 0, 0, parent, nullptr,
+                         ownModule(), nullptr);
+}
+
+}  // namespace
+
 HWND shownRootOf(HWND window) {
   const HWND root = window == nullptr ? nullptr : GetAncestor(window, GA_ROOT);
   return root != nullptr && IsWindowVisible(root) != FALSE ? root : nullptr;
 }
 
-NativeWindow::NativeWindow(HWND parent, Win32Frame* frame, const Kind& kind) : frame_(frame) {
-  const DWORD asChild = (kind.style & WS_POPUP) != 0 ? 0 : WS_CHILD | WS_VISIBLE;
-  handle_ = CreateWindowExW(kind.extendedStyle, kind.windowClass, L"", kind.style | asChild, 0, 0, 0, 0, parent,
-                            nullptr, ownModule(), nullptr);
+NativeWindow::NativeWindow(HWND parent, Win32Frame* frame, const Kind& kind)
+    : handle_(make(parent, kind)), frame_(frame) {
   if (handle_ != nullptr) SetWindowSubclass(handle_, procedure, subclassId, reinterpret_cast<DWORD_PTR>(this));
   if (frame_ != nullptr) frame_->add(*this);
 }
@@ -50,6 +58,28 @@ NativeWindow::~NativeWindow() {
   RemoveWindowSubclass(window, procedure, subclassId);
   handle_ = nullptr;
   if (isOurs_) DestroyWindow(window);
+}
+
+void NativeWindow::remake(const Kind& kind) {
+  if (handle_ == nullptr || !isOurs_) return;
+  const ThemedScope themed;
+  const HWND former = handle_;
+  const HWND parent = GetAncestor(former, GA_PARENT);
+  const bool hadFocus = GetFocus() == former;
+  const HWND made = make(parent, kind);
+  if (made == nullptr) return;
+  RECT around{};
+  GetWindowRect(former, &around);
+  MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&around), 2);
+  SetWindowPos(made, former, around.left, around.top, around.right - around.left, around.bottom - around.top,
+               SWP_NOACTIVATE);  // behind it in the order of the Tab key
+  RemoveWindowSubclass(former, procedure, subclassId);
+  SetWindowSubclass(made, procedure, subclassId, reinterpret_cast<DWORD_PTR>(this));
+  handle_ = made;
+  if (font_) send(WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
+  applyState();
+  if (hadFocus) SetFocus(made);
+  DestroyWindow(former);
 }
 
 void NativeWindow::setSelfEnabled(bool enabled) {

@@ -83,6 +83,9 @@ class NativeWindow {
   LRESULT callSystem(UINT message, WPARAM wParam, LPARAM lParam) const;
   void setText(const std::wstring& text) const;
 
+  /// Puts a new, empty window in the place of the one there is, for what the system decides when a window is made.
+  void remake(const Kind& kind);
+
   Lifeline lifeline_;
 
  private:

@@ -32,7 +32,7 @@ TTTOOLINFOW ToolTip::description() const {
 }
 
 void ToolTip::setText(const std::string& text) {
-  std::wstring shown = toWide(text);
+  std::wstring shown = toWideLine(text);
   if (shown == text_ || IsWindow(tip_) == FALSE) return;
   text_ = std::move(shown);
   TTTOOLINFOW tool = description();

@@ -23,6 +23,7 @@ Win32ComboBox::Win32ComboBox(const CommandGate& gate, Mode mode, HWND parent, Wi
     : NativeWindow(parent, frame, {L"COMBOBOX", styleOf(mode)}), gate_(gate), mode_(mode) {
   constexpr int mostVisibleItems = 20;
   send(CB_SETMINVISIBLE, mostVisibleItems);
+  send(CB_LIMITTEXT, 0);  // as much as there is memory for
 }
 
 void Win32ComboBox::assign(std::vector<std::string> items) {
@@ -30,7 +31,7 @@ void Win32ComboBox::assign(std::vector<std::string> items) {
   places_.forget();
   send(WM_SETREDRAW, FALSE);
   send(CB_RESETCONTENT);
-  for (const std::string& item : items_) send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(toWide(item).c_str()));
+  for (const std::string& item : items_) send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(toWideLine(item).c_str()));
   send(WM_SETREDRAW, TRUE);
   fitList();
   show(-1, {});
@@ -38,7 +39,7 @@ void Win32ComboBox::assign(std::vector<std::string> items) {
 
 void Win32ComboBox::addItem(std::string_view text) {
   items_.emplace_back(text);
-  send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(toWide(text).c_str()));
+  send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(toWideLine(text).c_str()));
   fitList();
 }
 
@@ -75,7 +76,7 @@ void Win32ComboBox::showNow() {
 void Win32ComboBox::fitList() {
   if (handle() == nullptr || items_.empty()) return;
   const auto longest = std::ranges::max_element(items_, {}, &std::string::size);
-  const int wanted = TextMeasure(handle(), fontHandle()).width(toWide(*longest)) + scaled(handle(), 32);
+  const int wanted = TextMeasure(handle(), fontHandle()).width(toWideLine(*longest)) + scaled(handle(), 32);
   RECT box{};
   GetWindowRect(handle(), &box);
   constexpr LONG widest = 3;  // in widths of the combo box
@@ -170,7 +171,7 @@ void Win32ComboBox::onDraw(const DRAWITEMSTRUCT& item) {
   SetTextColor(item.hDC, GetSysColor(color));
   RECT place = item.rcItem;
   place.left += scaled(handle(), 3);
-  DrawTextW(item.hDC, toWide(text).c_str(), -1, &place,
+  DrawTextW(item.hDC, toWideLine(text).c_str(), -1, &place,
             DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
   if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
     DrawFocusRect(item.hDC, &item.rcItem);

@@ -268,7 +268,7 @@ void Win32ListBox::onDraw(const DRAWITEMSTRUCT& item) {
     SetTextColor(item.hDC, GetSysColor(front));
     RECT place = item.rcItem;
     place.left += scaled(handle(), 4);
-    DrawTextW(item.hDC, toWide(itemText(static_cast<int>(item.itemID))).c_str(), -1, &place,
+    DrawTextW(item.hDC, toWideLine(itemText(static_cast<int>(item.itemID))).c_str(), -1, &place,
               DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_EXPANDTABS);
   }
   if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {

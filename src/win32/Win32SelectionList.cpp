@@ -28,7 +28,7 @@ void Win32SelectionList::addItem(std::string_view text, bool selected) {
   items_.push_back({std::string(text), selected});
   if (handle() == nullptr) return;
   filling_ = true;
-  std::wstring shown = toWide(text);
+  std::wstring shown = toWideLine(text);
   LVITEMW item{};
   item.mask = LVIF_TEXT;
   item.iItem = itemCount() - 1;

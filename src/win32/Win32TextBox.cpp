@@ -1,5 +1,7 @@
 #include "win32/Win32TextBox.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <string>
 
 #include "text/LineEnds.h"
@@ -10,22 +12,52 @@ namespace {
 
 constexpr WPARAM controlA = 1;  // as the character that Ctrl+A types
 
+NativeWindow::Kind kindOf(Win32TextBox::Lines lines, bool wraps) {
+  DWORD style = WS_TABSTOP | ES_AUTOHSCROLL;
+  if (lines == Win32TextBox::Lines::Several) {
+    style = WS_TABSTOP | ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL;
+    if (!wraps) style |= ES_AUTOHSCROLL | WS_HSCROLL;
+  }
+  return {L"EDIT", style, WS_EX_CLIENTEDGE};
+}
+
+// Wrapping such a line may take the system the square of its length.
+bool hasEndlessLine(std::string_view text) {
+  constexpr std::size_t longestWrapped = 10'000;
+  std::size_t begin = 0;
+  while (begin + longestWrapped < text.size()) {
+    const std::size_t end = std::min(text.find('\n', begin), text.size());
+    if (end - begin > longestWrapped) return true;
+    begin = end + 1;
+  }
+  return false;
+}
+
 }  // namespace
 
 Win32TextBox::Win32TextBox(Lines lines, HWND parent, Win32Frame* frame)
-    : NativeWindow(
-          parent, frame,
-          {L"EDIT",
-           WS_TABSTOP | (lines == Lines::One ? DWORD{ES_AUTOHSCROLL}
-                                             : DWORD{ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL}),
-           WS_EX_CLIENTEDGE}),
-      lines_(lines) {
+    : NativeWindow(parent, frame, kindOf(lines, lines == Lines::Several)),
+      lines_(lines),
+      wraps_(lines == Lines::Several) {
+  takeLongTexts();
+}
+
+void Win32TextBox::takeLongTexts() const {
   send(EM_SETLIMITTEXT, 0);  // as much as there is memory for
+}
+
+void Win32TextBox::wrapFor(std::string_view text) {
+  const bool wraps = lines_ == Lines::Several && !hasEndlessLine(text);
+  if (wraps == wraps_) return;
+  wraps_ = wraps;
+  remake(kindOf(lines_, wraps));
+  takeLongTexts();
 }
 
 void Win32TextBox::setText(std::string_view text) {
   text_ = lines_ == Lines::One ? std::string(text) : text::toCrLf(text);
   settingText_ = true;
+  wrapFor(text_);
   NativeWindow::setText(toWide(text_));
   settingText_ = false;
 }

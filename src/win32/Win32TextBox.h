@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "platform/TextBox.h"
@@ -27,7 +28,11 @@ class Win32TextBox : public platform::TextBox, public NativeWindow {
   void onPosted(int what) override;
 
  private:
+  void takeLongTexts() const;
+  void wrapFor(std::string_view text);
+
   Lines lines_;
+  bool wraps_;
   platform::TextBoxEvents events_;
   std::string text_;  // as set or as last typed
   bool settingText_ = false;

@@ -23,9 +23,7 @@ void Win32ValueList::connectView() {
 
 void Win32ValueList::setCaption(std::string_view caption) {
   caption_ = caption;
-  std::string shown;
-  for (const char character : caption) shown.append(character == '&' ? 2 : 1, character);
-  label_.setCaption(shown);
+  label_.setCaption(fromWide(withoutAccessKey(caption)));
   label_.setSelfVisible(!caption.empty());
 }
 
