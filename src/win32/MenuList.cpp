@@ -25,11 +25,13 @@ void MenuList::fit(POINT place) {
   constexpr int rows = 20;
   constexpr int mostCharacters = 60;
   const TextMeasure measure(handle(), font_.get());
-  const int text = std::min(measure.width(toWideLine(longest_)), mostCharacters * measure.averageWidth());
-  const LONG width = text + GetSystemMetrics(SM_CXVSCROLL) + scaled(handle(), 24);
+  const auto extent = static_cast<LONG>(SendMessageW(list(), LB_GETHORIZONTALEXTENT, 0, 0));
+  const LONG longest = std::max<LONG>(measure.width(toWideLine(longest_)), extent);
+  const LONG text = std::min<LONG>(longest, mostCharacters * measure.averageWidth());
+  const LONG width = text + GetSystemMetrics(SM_CXVSCROLL) + 2 * GetSystemMetrics(SM_CXEDGE) + scaled(handle(), 8);
   const auto rowHeight = static_cast<LONG>(SendMessageW(list(), LB_GETITEMHEIGHT, 0, 0));
-  const LONG height =
-      std::min(rows, list_.itemCount()) * rowHeight + GetSystemMetrics(SM_CYHSCROLL) + 2 * GetSystemMetrics(SM_CYEDGE);
+  const LONG below = longest > text ? GetSystemMetrics(SM_CYHSCROLL) : 0;
+  const LONG height = std::min(rows, list_.itemCount()) * rowHeight + below + 2 * GetSystemMetrics(SM_CYEDGE);
   MONITORINFO monitor{};
   monitor.cbSize = sizeof monitor;
   GetMonitorInfoW(MonitorFromPoint(place, MONITOR_DEFAULTTONEAREST), &monitor);

@@ -49,7 +49,6 @@ class Meanwhile : private MessageWindow {
   explicit Meanwhile(std::vector<std::function<void()>> steps) : steps_(std::move(steps)) {
     SetTimer(handle(), 1, pause, nullptr);
   }
-  std::size_t done() const { return next_; }
 
  private:
   static constexpr UINT pause = 50;
