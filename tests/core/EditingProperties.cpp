@@ -27,13 +27,13 @@ class Model {
   }
   void insert(const std::string& name, const std::string& parameters) {
     if (name.empty()) return;
-    const auto behind = static_cast<std::size_t>(selected_ + 1);
     if (selected_ < 0) {
       lines_.push_back({name, parameters, ""});
       show(lines_.size(), name);
       selected_ = 0;
       return;
     }
+    const auto behind = static_cast<std::size_t>(selected_) + 1;
     lines_.push_back({});
     for (std::size_t position = lines_.size() - 1; position > behind; --position) {
       lines_[position].name = lines_[position - 1].name;

@@ -1,5 +1,6 @@
 #include "RandomCycles.h"
 
+#include <algorithm>
 #include <array>
 #include <ostream>
 #include <string_view>
@@ -38,10 +39,8 @@ std::string kept(const std::string& text) { return text::withoutCharacters(text,
 
 bool comesBack(const std::string& description) {
   const std::string text = kept(description);
-  for (const char* lost : {"//", "&lt;", "&gt;", "&quot;", "&apos;", "&amp;"}) {
-    if (text.find(lost) != std::string::npos) return false;
-  }
-  return true;
+  constexpr std::array lost{"//", "&lt;", "&gt;", "&quot;", "&apos;", "&amp;"};
+  return std::ranges::none_of(lost, [&text](const char* each) { return text.find(each) != std::string::npos; });
 }
 
 bool isNameless(const std::pair<std::string, std::string>& parameter) {

@@ -163,7 +163,7 @@ TEST_F(HostWindowTest, WithoutAtomLinesNothingIsWrittenAndNothingLost) {
   openInstrument();
   describe(QStringLiteral("An idea"));
   const QString path = write("c.xml", "old");
-  QTimer::singleShot(200, &window_, [this, path] {
+  QTimer::singleShot(200, &window_, [path] {
     auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     ASSERT_NE(dialog, nullptr);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
