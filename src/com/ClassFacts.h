@@ -8,9 +8,9 @@ namespace mavCycEd::com {
 /// members explain their errors, and whether a stranger's page may use it.
 ///
 /// The control is safe for untrusted callers and data: it opens no file and no connection, starts no program, changes
-/// no setting of the system, and its members take texts and give texts. A document with a document type, which could
-/// name files or grow without bounds, is refused; what an operator is asked stays in message boxes and the dialog of
-/// the control.
+/// no setting of the system, and its members take texts and give texts. Only the operator's F1 opens anything: the help
+/// file beside the library, which no caller can name. A document with a document type, which could name files or grow
+/// without bounds, is refused; what an operator is asked stays in message boxes and the dialog of the control.
 class ClassFacts : public Part<IProvideClassInfo2, ISupportErrorInfo, IObjectSafety> {
  public:
   explicit ClassFacts(Lifetime& lifetime) : Part(lifetime) {}
