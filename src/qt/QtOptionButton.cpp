@@ -1,7 +1,7 @@
 #include "qt/QtOptionButton.h"
 
 #include <QPointer>
-#include <utility>
+#include <QScopedValueRollback>
 
 #include "qt/Notify.h"
 #include "qt/Text.h"
@@ -11,8 +11,10 @@ namespace mavCycEd::qt {
 QtOptionButton::QtOptionButton(const CommandGate& gate, const char* name, QWidget* parent)
     : gate_(gate), button_(new QRadioButton(parent)) {
   button_->setObjectName(QLatin1String(name));
-  connect(button_, &QRadioButton::toggled, this, [this](bool selected) { isNewlySelected_ = selected; });
-  connect(button_, &QRadioButton::clicked, this, &QtOptionButton::raiseClick);
+  // Not clicked(): assistive technology selects without it, and a press of the selected option selects nothing.
+  connect(button_, &QRadioButton::toggled, this, [this](bool selected) {
+    if (selected && !selecting_) raiseClick();
+  });
 }
 
 void QtOptionButton::setCaption(std::string_view caption) {
@@ -21,13 +23,14 @@ void QtOptionButton::setCaption(std::string_view caption) {
 }
 
 void QtOptionButton::select() {
-  button_->setChecked(true);
-  isNewlySelected_ = false;
+  {
+    const QScopedValueRollback selecting(selecting_, true);
+    button_->setChecked(true);
+  }
   tell(events_.Click);
 }
 
 void QtOptionButton::raiseClick() {
-  if (!std::exchange(isNewlySelected_, false)) return;
   const QPointer<QtOptionButton> self(this);
   gate_.pass();
   if (self) tell(events_.Click);

@@ -31,7 +31,7 @@ class QtOptionButton : public QObject, public platform::OptionButton {
   QRadioButton* button_;
   platform::OptionButtonEvents events_;
   std::string caption_;
-  bool isNewlySelected_ = false;  // by the user, and not told yet
+  bool selecting_ = false;  // by code
 };
 
 }  // namespace mavCycEd::qt

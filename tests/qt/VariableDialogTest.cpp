@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
@@ -188,6 +189,18 @@ TEST_F(VariableDialog, OptionsTellEachChangeOnceHoweverItIsMade) {
     QTest::mouseClick(&object, Qt::LeftButton);
     EXPECT_THAT(now(), ElementsAre("object"));
   });
+}
+
+TEST_F(VariableDialog, AnOptionChosenByAssistiveTechnologyIsTold) {
+  int clicks = 0;
+  dialog.optNrValue().select();
+  dialog.optObjValue().setEvents({[&clicks] { ++clicks; }});
+  show([this] {
+    QAccessibleInterface* const option = QAccessible::queryAccessibleInterface(&widget("optObjValue"));
+    ASSERT_NE(option, nullptr);
+    option->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  });
+  EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(VariableDialog, OptionsAreOneGroup) {
