@@ -7,7 +7,7 @@
 
 namespace mavCycEd::qt {
 
-QtButton::QtButton(const CommandGate& gate, const char* name, QWidget* parent)
+QtButton::QtButton(const platform::CommandGate& gate, const char* name, QWidget* parent)
     : gate_(gate), button_(new QPushButton(parent)) {
   button_->setObjectName(QLatin1String(name));
   // Inside a host's dialog none of our buttons is what Enter presses.

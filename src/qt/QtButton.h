@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "platform/Button.h"
-#include "qt/CommandGate.h"
+#include "platform/CommandGate.h"
 
 namespace mavCycEd::qt {
 
@@ -14,7 +14,7 @@ class QtButton : public QObject, public platform::Button {
   Q_OBJECT
 
  public:
-  QtButton(const CommandGate& gate, const char* name, QWidget* parent);
+  QtButton(const platform::CommandGate& gate, const char* name, QWidget* parent);
 
   QPushButton* widget() const { return button_; }
 
@@ -27,7 +27,7 @@ class QtButton : public QObject, public platform::Button {
  private:
   void raiseClick();
 
-  const CommandGate& gate_;
+  const platform::CommandGate& gate_;
   QPushButton* button_;
   platform::ButtonEvents events_;
   std::string caption_;

@@ -9,7 +9,7 @@
 
 namespace mavCycEd::qt {
 
-QtComboBox::QtComboBox(const CommandGate& gate, Mode mode, const char* name, QWidget* parent)
+QtComboBox::QtComboBox(const platform::CommandGate& gate, Mode mode, const char* name, QWidget* parent)
     : gate_(gate), model_(new TextListModel), combo_(new ComboWidget(parent)) {
   combo_->setObjectName(QLatin1String(name));
   model_->setParent(combo_);

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "platform/ComboBox.h"
+#include "platform/CommandGate.h"
 #include "qt/ComboWidget.h"
-#include "qt/CommandGate.h"
 #include "qt/TextListModel.h"
 
 namespace mavCycEd::qt {
@@ -18,7 +18,7 @@ class QtComboBox : public QObject, public platform::ComboBox {
  public:
   enum class Mode { PickOnly, TypedToo };
 
-  QtComboBox(const CommandGate& gate, Mode mode, const char* name, QWidget* parent);
+  QtComboBox(const platform::CommandGate& gate, Mode mode, const char* name, QWidget* parent);
 
   ComboWidget* widget() const { return combo_; }
 
@@ -38,7 +38,7 @@ class QtComboBox : public QObject, public platform::ComboBox {
   void onPicked();
   void onTyped();
 
-  const CommandGate& gate_;
+  const platform::CommandGate& gate_;
   TextListModel* model_;
   ComboWidget* combo_;
   platform::ComboBoxEvents events_;

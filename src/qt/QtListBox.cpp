@@ -8,7 +8,7 @@
 
 namespace mavCycEd::qt {
 
-QtListBox::QtListBox(const CommandGate& gate, const char* name, QWidget* parent)
+QtListBox::QtListBox(const platform::CommandGate& gate, const char* name, QWidget* parent)
     : gate_(gate), model_(new TextListModel), view_(new TextListView(model_, parent)) {
   view_->setObjectName(QLatin1String(name));
   connect(view_, &TextListView::chosen, this, &QtListBox::raiseClick);

@@ -3,8 +3,8 @@
 #include <QObject>
 #include <utility>
 
+#include "platform/CommandGate.h"
 #include "platform/ListBox.h"
-#include "qt/CommandGate.h"
 #include "qt/TextListView.h"
 
 namespace mavCycEd::qt {
@@ -14,7 +14,7 @@ class QtListBox : public QObject, public platform::ListBox {
   Q_OBJECT
 
  public:
-  QtListBox(const CommandGate& gate, const char* name, QWidget* parent);
+  QtListBox(const platform::CommandGate& gate, const char* name, QWidget* parent);
 
   TextListView* widget() const { return view_; }
 
@@ -40,7 +40,7 @@ class QtListBox : public QObject, public platform::ListBox {
  private:
   void raiseClick();
 
-  const CommandGate& gate_;
+  const platform::CommandGate& gate_;
   TextListModel* model_;
   TextListView* view_;
   platform::ListBoxEvents events_;

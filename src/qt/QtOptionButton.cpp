@@ -8,7 +8,7 @@
 
 namespace mavCycEd::qt {
 
-QtOptionButton::QtOptionButton(const CommandGate& gate, const char* name, QWidget* parent)
+QtOptionButton::QtOptionButton(const platform::CommandGate& gate, const char* name, QWidget* parent)
     : gate_(gate), button_(new QRadioButton(parent)) {
   button_->setObjectName(QLatin1String(name));
   // Not clicked(): assistive technology selects without it, and a press of the selected option selects nothing.

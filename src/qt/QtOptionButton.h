@@ -4,8 +4,8 @@
 #include <QRadioButton>
 #include <utility>
 
+#include "platform/CommandGate.h"
 #include "platform/OptionButton.h"
-#include "qt/CommandGate.h"
 
 namespace mavCycEd::qt {
 
@@ -14,7 +14,7 @@ class QtOptionButton : public QObject, public platform::OptionButton {
   Q_OBJECT
 
  public:
-  QtOptionButton(const CommandGate& gate, const char* name, QWidget* parent);
+  QtOptionButton(const platform::CommandGate& gate, const char* name, QWidget* parent);
 
   QRadioButton* widget() const { return button_; }
 
@@ -27,7 +27,7 @@ class QtOptionButton : public QObject, public platform::OptionButton {
  private:
   void raiseClick();
 
-  const CommandGate& gate_;
+  const platform::CommandGate& gate_;
   QRadioButton* button_;
   platform::OptionButtonEvents events_;
   std::string caption_;

@@ -23,7 +23,7 @@ bool fitInMenu(std::size_t entries, const QMenu& menu) {
 
 }  // namespace
 
-QtPopupMenu::QtPopupMenu(const CommandGate& gate, const char* name, QWidget* parent)
+QtPopupMenu::QtPopupMenu(const platform::CommandGate& gate, const char* name, QWidget* parent)
     : gate_(gate), menu_(new PopupMenuWidget([this] { return visibleCaptions(); }, parent)) {
   menu_->setObjectName(QLatin1String(name));
 }

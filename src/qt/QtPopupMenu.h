@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/CommandGate.h"
 #include "platform/MenuItems.h"
-#include "qt/CommandGate.h"
 
 namespace mavCycEd::qt {
 
@@ -33,7 +33,7 @@ class QtPopupMenu : public QObject, public platform::MenuItems {
   Q_OBJECT
 
  public:
-  QtPopupMenu(const CommandGate& gate, const char* name, QWidget* parent);
+  QtPopupMenu(const platform::CommandGate& gate, const char* name, QWidget* parent);
 
   QMenu* widget() const { return menu_; }
   /// Where the menu opens, in global coordinates; at the pointer when nobody says.
@@ -51,7 +51,7 @@ class QtPopupMenu : public QObject, public platform::MenuItems {
   QAction* listEntry(const std::vector<int>& indexes);
   void onTriggered(int index);
 
-  const CommandGate& gate_;
+  const platform::CommandGate& gate_;
   PopupMenuWidget* menu_;
   std::function<QPoint()> place_;
 };

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "editing/VariableDialogScreen.h"
-#include "qt/CommandGate.h"
+#include "platform/CommandGate.h"
 #include "qt/HelpDesk.h"
 #include "qt/QtButton.h"
 #include "qt/QtComboBox.h"
@@ -51,7 +51,7 @@ class QtVariableDialog : public VariableDialogScreen {
   void setTabOrder();
   void nameForPeople();
 
-  CommandGate gate_;
+  platform::CommandGate gate_;
   HelpDesk& help_;
   QtModalDialog frmparams_;
   HelpKey helpKey_{*window(), [this] { help_.showOver(window(), HelpPage::Variables); }};

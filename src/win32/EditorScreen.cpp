@@ -19,7 +19,8 @@ std::shared_ptr<platform::Timer> timerOr(std::shared_ptr<platform::Timer> timer,
 
 }  // namespace
 
-EditorControls::EditorControls(HWND panel, const CommandGate& gate, std::shared_ptr<platform::Timer> gridTimer)
+EditorControls::EditorControls(HWND panel, const platform::CommandGate& gate,
+                               std::shared_ptr<platform::Timer> gridTimer)
     : fraSelectedMacro(panel, nullptr),
       fraCyclePart(panel, nullptr),
       fraDescription(panel, &fraCyclePart),

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "win32/CommandGate.h"
+#include "platform/CommandGate.h"
 #include "win32/PanelWindow.h"
 #include "win32/Win32ListBox.h"
 
@@ -30,7 +30,8 @@ class MenuList : public PanelWindow {
  private:
   class Entries : public Win32ListBox {
    public:
-    Entries(const CommandGate& gate, MenuList& menu) : Win32ListBox(gate, menu.handle(), nullptr), menu_(menu) {}
+    Entries(const platform::CommandGate& gate, MenuList& menu)
+        : Win32ListBox(gate, menu.handle(), nullptr), menu_(menu) {}
 
    protected:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -44,7 +45,7 @@ class MenuList : public PanelWindow {
   void take();
   void loop();
 
-  CommandGate gate_;  // nothing is open that a press in the list would end
+  platform::CommandGate gate_;  // nothing is open that a press in the list would end
   Entries list_{gate_, *this};
   std::string longest_;
   FontHandle font_;

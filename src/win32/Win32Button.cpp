@@ -5,7 +5,7 @@
 
 namespace mavCycEd::win32 {
 
-Win32Button::Win32Button(const CommandGate& gate, HWND parent, Win32Frame* frame)
+Win32Button::Win32Button(const platform::CommandGate& gate, HWND parent, Win32Frame* frame)
     : NativeWindow(parent, frame, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP}), gate_(gate) {}
 
 void Win32Button::setCaption(std::string_view caption) {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/Button.h"
-#include "win32/CommandGate.h"
+#include "platform/CommandGate.h"
 #include "win32/NativeWindow.h"
 
 namespace mavCycEd::win32 {
@@ -12,7 +12,7 @@ namespace mavCycEd::win32 {
 /// A push button.
 class Win32Button : public platform::Button, public NativeWindow {
  public:
-  Win32Button(const CommandGate& gate, HWND parent, Win32Frame* frame);
+  Win32Button(const platform::CommandGate& gate, HWND parent, Win32Frame* frame);
 
   void setEvents(platform::ButtonEvents events) override { events_ = std::move(events); }
   std::string caption() const override { return caption_; }
@@ -28,7 +28,7 @@ class Win32Button : public platform::Button, public NativeWindow {
   void onPosted(int what) override;
 
  private:
-  const CommandGate& gate_;
+  const platform::CommandGate& gate_;
   platform::ButtonEvents events_;
   std::string caption_;
 };

@@ -19,7 +19,7 @@ DWORD styleOf(Win32ComboBox::Mode mode) {
 
 }  // namespace
 
-Win32ComboBox::Win32ComboBox(const CommandGate& gate, Mode mode, HWND parent, Win32Frame* frame)
+Win32ComboBox::Win32ComboBox(const platform::CommandGate& gate, Mode mode, HWND parent, Win32Frame* frame)
     : NativeWindow(parent, frame, {L"COMBOBOX", styleOf(mode)}), gate_(gate), mode_(mode) {
   constexpr int mostVisibleItems = 20;
   send(CB_SETMINVISIBLE, mostVisibleItems);

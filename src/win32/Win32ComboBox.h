@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "platform/ComboBox.h"
+#include "platform/CommandGate.h"
 #include "text/FirstIndex.h"
-#include "win32/CommandGate.h"
 #include "win32/NativeWindow.h"
 
 namespace mavCycEd::win32 {
@@ -16,7 +16,7 @@ namespace mavCycEd::win32 {
 class Win32ComboBox : public platform::ComboBox, public NativeWindow {
  public:
   enum class Mode { PickOnly, TypedToo };
-  Win32ComboBox(const CommandGate& gate, Mode mode, HWND parent, Win32Frame* frame);
+  Win32ComboBox(const platform::CommandGate& gate, Mode mode, HWND parent, Win32Frame* frame);
 
   void setEvents(platform::ComboBoxEvents events) override { events_ = std::move(events); }
   void clear() override { assign({}); }
@@ -47,7 +47,7 @@ class Win32ComboBox : public platform::ComboBox, public NativeWindow {
   void takeTyped(const std::string& typed);
   void fitList();
 
-  const CommandGate& gate_;
+  const platform::CommandGate& gate_;
   Mode mode_;
   platform::ComboBoxEvents events_;
   std::vector<std::string> items_;

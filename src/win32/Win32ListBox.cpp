@@ -8,7 +8,7 @@
 
 namespace mavCycEd::win32 {
 
-Win32ListBox::Win32ListBox(const CommandGate& gate, HWND parent, Win32Frame* frame)
+Win32ListBox::Win32ListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame)
     : NativeWindow(
           parent, frame,
           {L"LISTBOX",

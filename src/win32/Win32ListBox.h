@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "platform/CommandGate.h"
 #include "platform/ListBox.h"
 #include "win32/Accessible.h"
-#include "win32/CommandGate.h"
 #include "win32/NativeWindow.h"
 
 namespace mavCycEd::win32 {
@@ -19,7 +19,7 @@ namespace mavCycEd::win32 {
 /// of a user is told, also one of the item that was selected already.
 class Win32ListBox : public platform::ListBox, public NativeWindow {
  public:
-  Win32ListBox(const CommandGate& gate, HWND parent, Win32Frame* frame);
+  Win32ListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame);
 
   void setEvents(platform::ListBoxEvents events) override { events_ = std::move(events); }
   void clear() override { assign({}); }
@@ -80,7 +80,7 @@ class Win32ListBox : public platform::ListBox, public NativeWindow {
   void raiseClick();
   void applyItemFont();
 
-  const CommandGate& gate_;
+  const platform::CommandGate& gate_;
   platform::ListBoxEvents events_;
   std::vector<std::string> items_;
   const platform::ListLines* lines_ = nullptr;  // null: the items are its own

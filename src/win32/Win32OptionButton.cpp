@@ -5,7 +5,7 @@
 
 namespace mavCycEd::win32 {
 
-Win32OptionButton::Win32OptionButton(const CommandGate& gate, Place place, HWND parent, Win32Frame* frame)
+Win32OptionButton::Win32OptionButton(const platform::CommandGate& gate, Place place, HWND parent, Win32Frame* frame)
     : NativeWindow(parent, frame,
                    {L"BUTTON", BS_RADIOBUTTON | (place == Place::FirstOfGroup ? WS_GROUP | WS_TABSTOP : 0U)}),
       gate_(gate) {

@@ -13,7 +13,7 @@ constexpr UINT openNow = WM_APP;
 
 }  // namespace
 
-Win32PopupMenu::Win32PopupMenu(const CommandGate& gate, std::function<HWND()> owner)
+Win32PopupMenu::Win32PopupMenu(const platform::CommandGate& gate, std::function<HWND()> owner)
     : gate_(gate), owner_(std::move(owner)) {}
 
 Win32PopupMenu::~Win32PopupMenu() { closeOpen(); }

@@ -5,8 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "platform/CommandGate.h"
 #include "platform/MenuItems.h"
-#include "win32/CommandGate.h"
 #include "win32/MessageWindow.h"
 #include "win32/Notify.h"
 
@@ -19,7 +19,7 @@ class MenuList;
 class Win32PopupMenu : public platform::MenuItems, private MessageWindow {
  public:
   /// `owner`: the window that the menu belongs to.
-  Win32PopupMenu(const CommandGate& gate, std::function<HWND()> owner);
+  Win32PopupMenu(const platform::CommandGate& gate, std::function<HWND()> owner);
   ~Win32PopupMenu() override;
 
   /// Where the menu opens, in screen coordinates; at the pointer when nobody says.
@@ -50,7 +50,7 @@ class Win32PopupMenu : public platform::MenuItems, private MessageWindow {
   std::optional<int> chooseFromMenu(HWND owner, POINT place);
   std::optional<int> chooseFromList(HWND owner, POINT place);
 
-  const CommandGate& gate_;
+  const platform::CommandGate& gate_;
   std::function<HWND()> owner_;
   std::function<POINT()> place_;
   bool waiting_ = false;

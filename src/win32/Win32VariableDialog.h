@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "editing/VariableDialogScreen.h"
-#include "win32/CommandGate.h"
+#include "platform/CommandGate.h"
 #include "win32/Win32Button.h"
 #include "win32/Win32ComboBox.h"
 #include "win32/Win32Frame.h"
@@ -21,7 +21,7 @@ namespace mavCycEd::win32 {
 
 /// The controls of the variable dialog, in the order of the Tab key.
 struct VariableDialogControls {
-  VariableDialogControls(HWND owner, const CommandGate& gate);
+  VariableDialogControls(HWND owner, const platform::CommandGate& gate);
 
   Win32ModalDialog frmparams;
   Win32Frame fraValue;
@@ -75,7 +75,7 @@ class Win32VariableDialog : public VariableDialogScreen {
   void nameForPeople();
 
   std::shared_ptr<Win32VariableDialog*> place_;
-  CommandGate gate_;
+  platform::CommandGate gate_;
   VariableDialogControls controls_;
   FontHandle font_;
 };

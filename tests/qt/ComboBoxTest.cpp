@@ -43,7 +43,7 @@ class ComboBox : public testing::TestWithParam<qt::QtComboBox::Mode> {
   }
   std::vector<std::string> told() { return std::exchange(log, {}); }
 
-  qt::CommandGate gate;
+  platform::CommandGate gate;
   QWidget window;
   QPushButton other;
   qt::QtComboBox combo{gate, GetParam(), "combo", &window};

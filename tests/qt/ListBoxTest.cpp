@@ -5,8 +5,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "platform/CommandGate.h"
 #include "platform/RunTimeError.h"
-#include "qt/CommandGate.h"
 #include "qt/QtListBox.h"
 #include "qt/QtSelectionList.h"
 
@@ -32,7 +32,7 @@ class ListBox : public testing::Test {
   void click(int index) { QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, placeOf(index)); }
   std::vector<std::string> told() { return std::exchange(log, {}); }
 
-  qt::CommandGate gate;
+  platform::CommandGate gate;
   QWidget owner;
   qt::QtListBox list{gate, "list", nullptr};
   std::unique_ptr<QWidget> viewOwner{list.widget()};

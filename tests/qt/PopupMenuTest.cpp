@@ -44,7 +44,7 @@ class PopupMenu : public testing::Test {
     QTest::keyClick(menu.widget(), Qt::Key_Return);
   }
 
-  qt::CommandGate gate;
+  platform::CommandGate gate;
   QWidget window;
   qt::QtPopupMenu menu{gate, "menu", &window};
   std::vector<int> chosen;

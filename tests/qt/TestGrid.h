@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "TestWindow.h"
+#include "platform/CommandGate.h"
 #include "qt/CellEditors.h"
-#include "qt/CommandGate.h"
 #include "qt/QtButton.h"
 #include "qt/QtValueList.h"
 
@@ -81,7 +81,7 @@ class TestGrid {
   std::vector<std::string> told() { return std::exchange(log, {}); }
 
   QWidget window;
-  qt::CommandGate gate;
+  platform::CommandGate gate;
   qt::QtButton before{gate, "before", &window};
   qt::QtValueList grid{"grid", &window};
   qt::QtButton after{gate, "after", &window};

@@ -28,7 +28,7 @@ class Win32ListBoxTest : public ::testing::Test {
   }
 
   HostWindow host_;
-  CommandGate gate_;
+  platform::CommandGate gate_;
   Win32ListBox list_{gate_, host_.handle(), nullptr};
   std::vector<std::string> events_;
 };

@@ -3,10 +3,10 @@
 #include <functional>
 #include <utility>
 
-namespace mavCycEd::win32 {
+namespace mavCycEd::platform {
 
-/// What every command passes before it runs, whether a user or the host gives it: an edit that is still open in the
-/// window's grid ends first, so that its value is checked and nothing typed is lost.
+/// What every command of an edition with windows passes before it runs, whether a user or the host gives it: an edit
+/// that is still open in the window's grid ends first, so that its value is checked and nothing typed is lost.
 class CommandGate {
  public:
   /// How the open edit ends.
@@ -21,4 +21,4 @@ class CommandGate {
   std::function<void()> endEdit_;
 };
 
-}  // namespace mavCycEd::win32
+}  // namespace mavCycEd::platform
