@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -30,10 +31,17 @@ inline constexpr std::array<OnScreen<Control>, 0> screenControls{};
 template <typename Control>
 inline constexpr std::array<InDialog<Control>, 0> dialogControls{};
 
+/// A list box of either kind.
+struct ListOnScreen {
+  std::string_view name;
+  memory::MemoryListBox& (*control)(memory::MemoryScreen& screen);
+};
 template <>
 inline constexpr std::array screenControls<memory::MemoryListBox>{
-    OnScreen<memory::MemoryListBox>{"lstAtomSequence", &memory::MemoryScreen::lstAtomSequence},
-    OnScreen<memory::MemoryListBox>{"lstVariables", &memory::MemoryScreen::lstVariables}};
+    ListOnScreen{"lstAtomSequence",
+                 [](memory::MemoryScreen& screen) -> memory::MemoryListBox& { return screen.lstAtomSequence; }},
+    ListOnScreen{"lstVariables",
+                 [](memory::MemoryScreen& screen) -> memory::MemoryListBox& { return screen.lstVariables; }}};
 template <>
 inline constexpr std::array screenControls<memory::MemoryComboBox>{
     OnScreen<memory::MemoryComboBox>{"cboAtom", &memory::MemoryScreen::cboAtom}};
@@ -99,7 +107,7 @@ inline constexpr std::array dialogControls<memory::MemoryFrame>{
 template <typename Control, typename Screen, typename Table>
 Control* findIn(Screen& screen, const Table& table, std::string_view name) {
   const auto entry = std::ranges::find_if(table, [name](const auto& named) { return named.name == name; });
-  return entry == table.end() ? nullptr : &(screen.*(entry->control));
+  return entry == table.end() ? nullptr : &std::invoke(entry->control, screen);
 }
 
 /// The controls that there are at this moment: those of the screen, and those of the dialog while it is open.

@@ -4,7 +4,8 @@
 #include "platform/Button.h"
 #include "platform/ComboBox.h"
 #include "platform/Frame.h"
-#include "platform/ListBox.h"
+#include "platform/ItemListBox.h"
+#include "platform/LineListBox.h"
 #include "platform/PopupMenu.h"
 #include "platform/TextBox.h"
 #include "platform/Timer.h"
@@ -18,12 +19,12 @@ struct ControlScreen {
   platform::Frame& fraDescription;         ///< in fraCyclePart
   platform::TextBox& txtCycleDescription;  ///< in fraDescription; several lines
   platform::Frame& fraAtom;                ///< in fraCyclePart
-  platform::ListBox& lstAtomSequence;      ///< in fraAtom, and its three buttons
+  platform::LineListBox& lstAtomSequence;  ///< in fraAtom, and its three buttons
   platform::Button& cmdInset;
   platform::Button& cmdReplace;
   platform::Button& cmdDelete;
-  platform::Frame& fraVariables;    ///< in fraCyclePart
-  platform::ListBox& lstVariables;  ///< in fraVariables, and its two buttons
+  platform::Frame& fraVariables;        ///< in fraCyclePart
+  platform::ItemListBox& lstVariables;  ///< in fraVariables, and its two buttons
   platform::Button& cmdIns;
   platform::Button& cmdDel;
   platform::Frame& fraSelectedMacro;  ///< around the atom picker and the parameter grid

@@ -6,7 +6,8 @@
 #include "cycle/LoadedCycle.h"
 #include "cycle/ReferenceCycle.h"
 #include "cycle/SequenceDisplay.h"
-#include "platform/ListBox.h"
+#include "platform/ItemListBox.h"
+#include "platform/LineListBox.h"
 #include "platform/TextBox.h"
 
 namespace mavCycEd {
@@ -41,8 +42,8 @@ struct CycleState {
 /// The parts of the screen that hold the rest of the cycle.
 struct CycleScreen {
   platform::TextBox& txtCycleDescription;
-  platform::ListBox& lstVariables;     ///< one item per cycle variable: its definition text
-  platform::ListBox& lstAtomSequence;  ///< one display line per atom line
+  platform::ItemListBox& lstVariables;     ///< one item per cycle variable: its definition text
+  platform::LineListBox& lstAtomSequence;  ///< one display line per atom line
 };
 
 }  // namespace mavCycEd

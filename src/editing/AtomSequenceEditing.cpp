@@ -77,7 +77,7 @@ void AtomSequenceEditing::append(std::string name, std::string parameters) {
   if (shown == 0 || shown + 1 != cycle_.display.count()) {
     screen_.lstAtomSequence.showLines(cycle_.display);
   } else {
-    screen_.lstAtomSequence.lineAdded();
+    screen_.lstAtomSequence.spliced(shown, 0, 1);
   }
 }
 
@@ -91,7 +91,7 @@ void AtomSequenceEditing::cmdReplace_Click() {
     atom.setAtomName(screen_.cboAtom.text());
     atom.setAtomParameters(ParamFiller());
     cycle_.display.replace(index);
-    screen_.lstAtomSequence.lineChanged(index);
+    screen_.lstAtomSequence.spliced(index, 1, 1);
   });
 }
 

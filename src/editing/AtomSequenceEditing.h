@@ -9,6 +9,7 @@
 #include "paramgrid/ValueValidation.h"
 #include "platform/ComboBox.h"
 #include "platform/ErrorSink.h"
+#include "platform/LineListBox.h"
 #include "platform/Timer.h"
 #include "platform/ValueListActiveX.h"
 
@@ -19,7 +20,7 @@ class AtomSequenceEditing {
  public:
   /// The controls of the screen that the commands work on.
   struct Screen {
-    platform::ListBox& lstAtomSequence;
+    platform::LineListBox& lstAtomSequence;
     platform::ComboBox& cboAtom;
     platform::ValueListActiveX& GrdAtom;
     platform::Timer& tmrUpdateGrid;

@@ -38,13 +38,13 @@ std::string_view shownParameterName(std::string_view segment) {
 /// Notes which dialog is shown while it is.
 class Shown {
  public:
-  Shown(VariableDialogScreen*& place, VariableDialogScreen& screen) : place_(place) { place = &screen; }
+  Shown(const VariableDialogScreen*& place, const VariableDialogScreen& screen) : place_(place) { place = &screen; }
   ~Shown() { place_ = nullptr; }
   Shown(const Shown&) = delete;
   Shown& operator=(const Shown&) = delete;
 
  private:
-  VariableDialogScreen*& place_;
+  const VariableDialogScreen*& place_;
 };
 
 }  // namespace
@@ -107,18 +107,11 @@ void CycleVariables::cmdIns_Click() {
     const std::string result = exchange_.resultText;
     extraValues_.Add_Extra_Udons(result);
     if (result.empty()) return;
-    insertEntry(index < 0 ? surroundings_.lstVariables.itemCount() : index, result);
+    surroundings_.lstVariables.insertItem(index < 0 ? surroundings_.lstVariables.itemCount() : index, result);
     // The list is left scrolled to its end, with nothing selected.
     surroundings_.lstVariables.setIndex(surroundings_.lstVariables.itemCount() - 1);
     surroundings_.lstVariables.setIndex(-1);
   });
-}
-
-void CycleVariables::insertEntry(int position, const std::string& entry) {
-  platform::ListBox& list = surroundings_.lstVariables;
-  list.addItem(entry);
-  for (int i = list.itemCount() - 1; i > position; --i) list.setItemText(i, list.itemText(i - 1));
-  list.setItemText(position, entry);
 }
 
 void CycleVariables::lstVariables_DblClick() {
@@ -147,17 +140,17 @@ void CycleVariables::lstVariables_DblClick() {
 
 void CycleVariables::end() {
   ended_ = true;
-  if (open_ != nullptr) open_->frmparams().close();
+  if (open_ != nullptr) open_->frmparams.close();
 }
 
 void CycleVariables::runDialog(bool nameLocked) {
   if (ended_) return;
-  const std::unique_ptr<VariableDialogScreen> screen = surroundings_.dialogs.createVariableDialog();
-  frmparams dialog(*screen, exchange_, surroundings_.catalogue, surroundings_.provider, surroundings_.messages,
-                   errors_);
+  const std::unique_ptr<VariableDialogWindow> window = surroundings_.dialogs.createVariableDialog();
+  const VariableDialogScreen screen = window->controls();
+  frmparams dialog(screen, exchange_, surroundings_.catalogue, surroundings_.provider, surroundings_.messages, errors_);
   dialog.Form_Load();
   if (nameLocked) dialog.lockName();
-  const Shown shown(open_, *screen);
+  const Shown shown(open_, screen);
   dialog.show();
 }
 

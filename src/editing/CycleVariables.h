@@ -12,7 +12,7 @@
 #include "paramgrid/ExtraValues.h"
 #include "platform/ComboBox.h"
 #include "platform/ErrorSink.h"
-#include "platform/ListBox.h"
+#include "platform/ItemListBox.h"
 #include "platform/MessageBox.h"
 
 namespace mavCycEd {
@@ -23,7 +23,7 @@ class CycleVariables {
  public:
   /// What the commands work with beside the cycle.
   struct Surroundings {
-    platform::ListBox& lstVariables;
+    platform::ItemListBox& lstVariables;
     platform::ComboBox& cboAtom;
     VariableDialogFactory& dialogs;
     modCycleHelper& catalogue;
@@ -53,7 +53,6 @@ class CycleVariables {
  private:
   std::string variableInUse(std::string& variable);
   bool tellUses(std::string variable);
-  void insertEntry(int position, const std::string& entry);
   void runDialog(bool nameLocked);
 
   CycleState& cycle_;
@@ -62,7 +61,7 @@ class CycleVariables {
   std::function<void()> cboAtom_Click_;
   ErrorSink& errors_;
   DialogExchange exchange_;
-  VariableDialogScreen* open_ = nullptr;  // the dialog that is shown
+  const VariableDialogScreen* open_ = nullptr;  // the dialog that is shown
   bool ended_ = false;
 };
 

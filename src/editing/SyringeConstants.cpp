@@ -10,9 +10,9 @@ namespace mavCycEd {
 void SyringeConstants::cboUnit_LostFocus() {
   guarded(errors_, "cboUnit_LostFocus", [this] {
     ValueList values;
-    catalogue_.appendObjectValues(screen_.cboUnit().text(), values);
+    catalogue_.appendObjectValues(screen_.cboUnit.text(), values);
     EmptyMnu();
-    platform::PopupMenu& menu = screen_.mnuSyrConstant();
+    platform::PopupMenu& menu = screen_.mnuSyrConstant;
     std::unordered_set<std::string_view> offered;
     for (const std::string& value : values) {
       if (value.empty() || !offered.insert(value).second) continue;
@@ -28,14 +28,14 @@ void SyringeConstants::cboUnit_LostFocus() {
 }
 
 void SyringeConstants::EmptyMnu() {
-  modControlArray::deleteItems(screen_.mnuSyrConstant());
-  screen_.mnuSyrConstant().setItemCaption(0, "");
+  modControlArray::deleteItems(screen_.mnuSyrConstant);
+  screen_.mnuSyrConstant.setItemCaption(0, "");
 }
 
 void SyringeConstants::grdParamStnd_OnMouseDown(platform::MouseButton button) {
   guarded(errors_, "grdParamStnd_OnMouseDown", [&] {
     chosenByKeys_ = false;
-    if (button == platform::MouseButton::Primary) pressedRow_ = screen_.grdParamStnd().Row();
+    if (button == platform::MouseButton::Primary) pressedRow_ = screen_.grdParamStnd.Row();
   });
 }
 
@@ -44,9 +44,9 @@ void SyringeConstants::grdParamStnd_OnContextPopup(int x, int y) {
     constexpr int titleBottom = 16;
     constexpr int rowsBottom = 76;
     constexpr int keyColumnEnd = 150;
-    if (chosenByKeys_) pressedRow_ = screen_.grdParamStnd().Row();
+    if (chosenByKeys_) pressedRow_ = screen_.grdParamStnd.Row();
     const bool overValues = y > titleBottom && y < rowsBottom && x > keyColumnEnd;
-    platform::PopupMenu& menu = screen_.mnuSyrConstant();
+    platform::PopupMenu& menu = screen_.mnuSyrConstant;
     if (overValues && !menu.itemCaption(0).empty()) menu.popUp();
   });
 }
@@ -54,7 +54,7 @@ void SyringeConstants::grdParamStnd_OnContextPopup(int x, int y) {
 void SyringeConstants::mnuSyrConstant_Click(int index) {
   guarded(errors_, "mnuSyrConstant_Click", [&] {
     const int row = pressedRow_ == 0 ? 1 : pressedRow_;
-    screen_.grdParamStnd().setValue(1, row, screen_.mnuSyrConstant().itemCaption(index));
+    screen_.grdParamStnd.setValue(1, row, screen_.mnuSyrConstant.itemCaption(index));
   });
 }
 

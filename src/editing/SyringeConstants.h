@@ -12,7 +12,7 @@ namespace mavCycEd {
 /// three settings.
 class SyringeConstants {
  public:
-  SyringeConstants(VariableDialogScreen& screen, modCycleHelper& catalogue, ErrorSink& errors)
+  SyringeConstants(const VariableDialogScreen& screen, modCycleHelper& catalogue, ErrorSink& errors)
       : screen_(screen), catalogue_(catalogue), errors_(errors) {}
 
   /// The focus left the unit box: gathers the values of the unit that stands there.
@@ -30,7 +30,7 @@ class SyringeConstants {
  private:
   void EmptyMnu();
 
-  VariableDialogScreen& screen_;
+  const VariableDialogScreen& screen_;
   modCycleHelper& catalogue_;
   ErrorSink& errors_;
   int pressedRow_ = 0;

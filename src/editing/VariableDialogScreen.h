@@ -16,25 +16,30 @@
 namespace mavCycEd {
 
 /// The window of the variable dialog frmparams and its controls, made by an edition for one use of the dialog.
-class VariableDialogScreen {
- public:
-  virtual ~VariableDialogScreen() = default;
+struct VariableDialogScreen {
+  platform::ModalDialog& frmparams;
+  platform::Frame& fraValue;        ///< around txtParamName
+  platform::TextBox& txtParamName;  ///< one line
+  platform::Frame& fraParamType;    ///< around the two options, which are one group
+  platform::OptionButton& optNrValue;
+  platform::OptionButton& optObjValue;
+  platform::Frame& fraValues;  ///< around grdParamStnd and cboUnit
+  platform::ValueListActiveX& grdParamStnd;
+  platform::Label& lblUnit;     ///< in front of cboUnit
+  platform::ComboBox& cboUnit;  ///< a user may also type a text that is no item
+  platform::Frame& fraObjects;  ///< around lstObject
+  platform::SelectionList& lstObject;
+  platform::Button& OKButton;  ///< also pressed by Enter
+  platform::Button& cmdCancel;
+  platform::PopupMenu& mnuSyrConstant;  ///< the items of the pop-up menu mnuSyrConstants
+};
 
-  virtual platform::ModalDialog& frmparams() = 0;
-  virtual platform::Frame& fraValue() = 0;        ///< around txtParamName
-  virtual platform::TextBox& txtParamName() = 0;  ///< one line
-  virtual platform::Frame& fraParamType() = 0;    ///< around the two options, which are one group
-  virtual platform::OptionButton& optNrValue() = 0;
-  virtual platform::OptionButton& optObjValue() = 0;
-  virtual platform::Frame& fraValues() = 0;  ///< around grdParamStnd and cboUnit
-  virtual platform::ValueListActiveX& grdParamStnd() = 0;
-  virtual platform::Label& lblUnit() = 0;     ///< in front of cboUnit
-  virtual platform::ComboBox& cboUnit() = 0;  ///< a user may also type a text that is no item
-  virtual platform::Frame& fraObjects() = 0;  ///< around lstObject
-  virtual platform::SelectionList& lstObject() = 0;
-  virtual platform::Button& OKButton() = 0;  ///< also pressed by Enter
-  virtual platform::Button& cmdCancel() = 0;
-  virtual platform::PopupMenu& mnuSyrConstant() = 0;  ///< the items of the pop-up menu mnuSyrConstants
+/// Owns the dialog's window; it goes with this.
+class VariableDialogWindow {
+ public:
+  virtual ~VariableDialogWindow() = default;
+
+  virtual VariableDialogScreen controls() = 0;
 };
 
 /// Makes the dialog's window over the control.
@@ -43,7 +48,7 @@ class VariableDialogFactory {
   virtual ~VariableDialogFactory() = default;
 
   /// A new window, not yet shown.
-  virtual std::unique_ptr<VariableDialogScreen> createVariableDialog() = 0;
+  virtual std::unique_ptr<VariableDialogWindow> createVariableDialog() = 0;
 };
 
 }  // namespace mavCycEd

@@ -18,7 +18,7 @@ namespace mavCycEd {
 /// refused OK keeps the dialog open with everything entered.
 class frmparams {
  public:
-  frmparams(VariableDialogScreen& screen, DialogExchange& exchange, modCycleHelper& catalogue,
+  frmparams(const VariableDialogScreen& screen, DialogExchange& exchange, modCycleHelper& catalogue,
             AtomListProvider& provider, platform::MessageBox& messages, ErrorSink& errors);
   ~frmparams();
   frmparams(const frmparams&) = delete;
@@ -29,7 +29,7 @@ class frmparams {
   /// Disables the name box and the choice of the type: the variable is in use. The box shows the name that is in use.
   void lockName();
   /// Shows the dialog and returns when it has closed.
-  void show() { screen_.frmparams().showModal(); }
+  void show() { screen_.frmparams.showModal(); }
 
  private:
   void connect();
@@ -38,7 +38,7 @@ class frmparams {
   void FillStandardUnits();
   static bool itemInComboExists(const platform::ComboBox& combo, std::string_view text);
   void fillSettings(std::string_view defaultValue, std::string_view lower, std::string_view upper);
-  std::string setting(int row) const { return screen_.grdParamStnd().cellText(1, row); }
+  std::string setting(int row) const { return screen_.grdParamStnd.cellText(1, row); }
 
   void OKButton_Click();
   void cmdCancel_Click();
@@ -57,7 +57,7 @@ class frmparams {
   void tell(std::string_view message);
   std::string definition() const;
 
-  VariableDialogScreen& screen_;
+  const VariableDialogScreen& screen_;
   DialogExchange& exchange_;
   modCycleHelper& catalogue_;
   AtomListProvider& provider_;

@@ -3,10 +3,25 @@
 namespace mavCycEd::memory {
 
 ControlScreen MemoryScreen::controls() {
-  return {fraCyclePart, fraDescription, txtCycleDescription, fraAtom,        lstAtomSequence,
-          cmdInset,     cmdReplace,     cmdDelete,           fraVariables,   lstVariables,
-          cmdIns,       cmdDel,         fraSelectedMacro,    cboAtom,        GrdAtom,
-          cmdDefault,   mnuSubParam,    tmrUpdateGrid,       variableDialogs};
+  return {.fraCyclePart = fraCyclePart,
+          .fraDescription = fraDescription,
+          .txtCycleDescription = txtCycleDescription,
+          .fraAtom = fraAtom,
+          .lstAtomSequence = lstAtomSequence,
+          .cmdInset = cmdInset,
+          .cmdReplace = cmdReplace,
+          .cmdDelete = cmdDelete,
+          .fraVariables = fraVariables,
+          .lstVariables = lstVariables,
+          .cmdIns = cmdIns,
+          .cmdDel = cmdDel,
+          .fraSelectedMacro = fraSelectedMacro,
+          .cboAtom = cboAtom,
+          .GrdAtom = GrdAtom,
+          .cmdDefault = cmdDefault,
+          .mnuSubParam = mnuSubParam,
+          .tmrUpdateGrid = tmrUpdateGrid,
+          .variableDialogs = variableDialogs};
 }
 
 }  // namespace mavCycEd::memory

@@ -21,12 +21,12 @@ struct MemoryScreen {
   MemoryFrame fraDescription{&fraCyclePart};
   MemoryTextBox txtCycleDescription{&fraDescription};
   MemoryFrame fraAtom{&fraCyclePart};
-  MemoryListBox lstAtomSequence{&fraAtom};
+  MemoryLineListBox lstAtomSequence{&fraAtom};
   MemoryButton cmdInset{&fraAtom};
   MemoryButton cmdReplace{&fraAtom};
   MemoryButton cmdDelete{&fraAtom};
   MemoryFrame fraVariables{&fraCyclePart};
-  MemoryListBox lstVariables{&fraVariables};
+  MemoryItemListBox lstVariables{&fraVariables};
   MemoryButton cmdIns{&fraVariables};
   MemoryButton cmdDel{&fraVariables};
   MemoryFrame fraSelectedMacro{nullptr};

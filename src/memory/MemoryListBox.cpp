@@ -1,56 +1,20 @@
 #include "memory/MemoryListBox.h"
 
-#include <utility>
+#include <cstddef>
 
 #include "memory/Notify.h"
-#include "platform/RunTimeError.h"
 
 namespace mavCycEd::memory {
 
-std::size_t MemoryListBox::checked(int index) const {
-  if (index < 0 || index >= itemCount()) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-  return static_cast<std::size_t>(index);
-}
-
-void MemoryListBox::assign(std::vector<std::string> items) {
-  items_ = std::move(items);
-  lines_ = nullptr;
-  index_ = -1;
-}
-
-void MemoryListBox::showLines(const platform::ListLines& lines) {
-  items_.clear();
-  lines_ = &lines;
-  lineCount_ = lines.count();
-  index_ = -1;
-}
-
-void MemoryListBox::lineAdded() { ++lineCount_; }
-
-std::string MemoryListBox::itemText(int index) const {
-  const std::size_t at = checked(index);
-  return lines_ != nullptr ? lines_->text(index) : items_[at];
-}
-
 std::vector<std::string> MemoryListBox::items() const {
-  std::vector<std::string> texts;
-  texts.reserve(static_cast<std::size_t>(itemCount()));
-  for (int i = 0; i < itemCount(); ++i) texts.push_back(itemText(i));
-  return texts;
-}
-
-void MemoryListBox::removeItem(int index) {
-  items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(checked(index)));
-  if (index == index_) {
-    index_ = -1;
-  } else if (index < index_) {
-    --index_;
-  }
+  std::vector<std::string> items;
+  items.reserve(static_cast<std::size_t>(itemCount()));
+  for (int i = 0; i < itemCount(); ++i) items.push_back(itemText(i));
+  return items;
 }
 
 void MemoryListBox::setIndex(int index) {
-  if (index != -1) checked(index);
-  index_ = index;
+  selection_.select(index == -1 ? index : texts().checked(index));
   notify(events_.Click);
 }
 
@@ -58,6 +22,37 @@ void MemoryListBox::doubleClick(int index) {
   const auto doubleClicked = events_.DblClick;
   setIndex(index);
   notify(doubleClicked);
+}
+
+void MemoryItemListBox::assign(std::vector<std::string> items) {
+  items_.assign(std::move(items));
+  selection().clear();
+}
+
+void MemoryItemListBox::insertItem(int index, std::string_view text) {
+  items_.insert(index, text);
+  selection().splice({.at = index, .removed = 0, .added = 1});
+}
+
+void MemoryItemListBox::removeItem(int index) {
+  items_.remove(index);
+  selection().splice({.at = index, .removed = 1, .added = 0});
+}
+
+void MemoryLineListBox::clear() {
+  lines_.clear();
+  selection().clear();
+}
+
+void MemoryLineListBox::showLines(const platform::ListLines& lines) {
+  lines_.show(lines);
+  selection().clear();
+}
+
+void MemoryLineListBox::spliced(int at, int removed, int added) {
+  const kit::Splice change{.at = at, .removed = removed, .added = added};
+  lines_.splice(change);
+  selection().splice(change);
 }
 
 }  // namespace mavCycEd::memory

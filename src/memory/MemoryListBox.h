@@ -1,32 +1,28 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "kit/LineCount.h"
+#include "kit/ListItems.h"
+#include "kit/SelectionRanges.h"
 #include "memory/Control.h"
-#include "platform/ListBox.h"
+#include "platform/ItemListBox.h"
+#include "platform/LineListBox.h"
 
 namespace mavCycEd::memory {
 
 /// A list box without a screen.
-class MemoryListBox : public platform::ListBox, public Control {
+class MemoryListBox : public virtual platform::ListBox, public Control {
  public:
   using Control::Control;
 
   void setEvents(platform::ListBoxEvents events) override { events_ = std::move(events); }
-  void clear() override { assign({}); }
-  void assign(std::vector<std::string> items) override;
-  void showLines(const platform::ListLines& lines) override;
-  void lineAdded() override;
-  void lineChanged(int index) override { checked(index); }
-  void addItem(std::string_view text) override { items_.emplace_back(text); }
-  void removeItem(int index) override;
-  void setItemText(int index, std::string_view text) override { items_[checked(index)] = text; }
-  int itemCount() const override { return lines_ != nullptr ? lineCount_ : static_cast<int>(items_.size()); }
-  std::string itemText(int index) const override;
-  int index() const override { return index_; }
+  int itemCount() const override { return texts().count(); }
+  std::string itemText(int index) const override { return texts().text(index); }
+  int index() const override { return selection_.first(); }
   void setIndex(int index) override;
   platform::Font font() const override { return font_; }
   void setItemFont(const platform::Font& font) override { font_ = font; }
@@ -36,15 +32,49 @@ class MemoryListBox : public platform::ListBox, public Control {
   /// The texts of all items.
   std::vector<std::string> items() const;
 
- private:
-  std::size_t checked(int index) const;
+ protected:
+  virtual const kit::ListTexts& texts() const = 0;
+  kit::SelectionRanges& selection() { return selection_; }
 
+ private:
   platform::ListBoxEvents events_;
-  std::vector<std::string> items_;
-  const platform::ListLines* lines_ = nullptr;  // null: the items are its own
-  int lineCount_ = 0;
-  int index_ = -1;
+  kit::SelectionRanges selection_;
   platform::Font font_;
+};
+
+/// A list of items without a screen.
+class MemoryItemListBox : public MemoryListBox, public platform::ItemListBox {
+ public:
+  using MemoryListBox::MemoryListBox;
+
+  void clear() override { assign({}); }
+  void assign(std::vector<std::string> items) override;
+  void addItem(std::string_view text) override { items_.append(text); }
+  void insertItem(int index, std::string_view text) override;
+  void removeItem(int index) override;
+  void setItemText(int index, std::string_view text) override { items_.setText(index, text); }
+
+ protected:
+  const kit::ListTexts& texts() const override { return items_; }
+
+ private:
+  kit::ListItems items_;
+};
+
+/// A list of an owner's lines without a screen.
+class MemoryLineListBox : public MemoryListBox, public platform::LineListBox {
+ public:
+  using MemoryListBox::MemoryListBox;
+
+  void clear() override;
+  void showLines(const platform::ListLines& lines) override;
+  void spliced(int at, int removed, int added) override;
+
+ protected:
+  const kit::ListTexts& texts() const override { return lines_; }
+
+ private:
+  kit::LineCount lines_;
 };
 
 }  // namespace mavCycEd::memory

@@ -5,30 +5,32 @@
 namespace mavCycEd::memory {
 namespace {
 
-class Screen : public VariableDialogScreen {
+class Window : public VariableDialogWindow {
  public:
-  Screen() { MemoryOptionButton::group({&controls_.optNrValue, &controls_.optObjValue}); }
+  Window() { MemoryOptionButton::group({&windows_.optNrValue, &windows_.optObjValue}); }
 
-  MemoryVariableDialogControls& controls() { return controls_; }
+  MemoryVariableDialogControls& windows() { return windows_; }
 
-  MemoryModalDialog& frmparams() override { return controls_.frmparams; }
-  platform::Frame& fraValue() override { return controls_.fraValue; }
-  platform::TextBox& txtParamName() override { return controls_.txtParamName; }
-  platform::Frame& fraParamType() override { return controls_.fraParamType; }
-  platform::OptionButton& optNrValue() override { return controls_.optNrValue; }
-  platform::OptionButton& optObjValue() override { return controls_.optObjValue; }
-  platform::Frame& fraValues() override { return controls_.fraValues; }
-  platform::ValueListActiveX& grdParamStnd() override { return controls_.grdParamStnd; }
-  platform::Label& lblUnit() override { return controls_.lblUnit; }
-  platform::ComboBox& cboUnit() override { return controls_.cboUnit; }
-  platform::Frame& fraObjects() override { return controls_.fraObjects; }
-  platform::SelectionList& lstObject() override { return controls_.lstObject; }
-  platform::Button& OKButton() override { return controls_.OKButton; }
-  platform::Button& cmdCancel() override { return controls_.cmdCancel; }
-  platform::PopupMenu& mnuSyrConstant() override { return controls_.mnuSyrConstant; }
+  VariableDialogScreen controls() override {
+    return {.frmparams = windows_.frmparams,
+            .fraValue = windows_.fraValue,
+            .txtParamName = windows_.txtParamName,
+            .fraParamType = windows_.fraParamType,
+            .optNrValue = windows_.optNrValue,
+            .optObjValue = windows_.optObjValue,
+            .fraValues = windows_.fraValues,
+            .grdParamStnd = windows_.grdParamStnd,
+            .lblUnit = windows_.lblUnit,
+            .cboUnit = windows_.cboUnit,
+            .fraObjects = windows_.fraObjects,
+            .lstObject = windows_.lstObject,
+            .OKButton = windows_.OKButton,
+            .cmdCancel = windows_.cmdCancel,
+            .mnuSyrConstant = windows_.mnuSyrConstant};
+  }
 
  private:
-  MemoryVariableDialogControls controls_;
+  MemoryVariableDialogControls windows_;
 };
 
 // Which dialog is open, for as long as this object lives.
@@ -47,14 +49,14 @@ class Opened {
 
 }  // namespace
 
-std::unique_ptr<VariableDialogScreen> MemoryVariableDialogs::createVariableDialog() {
-  auto screen = std::make_unique<Screen>();
-  MemoryVariableDialogControls& controls = screen->controls();
+std::unique_ptr<VariableDialogWindow> MemoryVariableDialogs::createVariableDialog() {
+  auto window = std::make_unique<Window>();
+  MemoryVariableDialogControls& controls = window->windows();
   controls.frmparams.setUser([this, &controls] {
     const Opened opened(open_, controls);
     if (const User user = user_) user(controls);
   });
-  return screen;
+  return window;
 }
 
 }  // namespace mavCycEd::memory

@@ -58,7 +58,7 @@ class MemoryVariableDialogs : public VariableDialogFactory {
   /// The controls of the dialog that is shown at this moment; nullptr when none is.
   MemoryVariableDialogControls* open() const { return open_; }
 
-  std::unique_ptr<VariableDialogScreen> createVariableDialog() override;
+  std::unique_ptr<VariableDialogWindow> createVariableDialog() override;
 
  private:
   User user_;

@@ -2,11 +2,8 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include "platform/Font.h"
-#include "platform/ListLines.h"
 
 namespace mavCycEd::platform {
 
@@ -18,7 +15,8 @@ struct ListBoxEvents {
   std::function<void()> DblClick;
 };
 
-/// A single-selection list of texts. Items are numbered from 0; -1 stands for "no item".
+/// A single-selection list of texts: what a list of items (ItemListBox) and one of an owner's lines (LineListBox)
+/// share. Items are numbered from 0; -1 stands for "no item".
 class ListBox {
  public:
   virtual ~ListBox() = default;
@@ -27,22 +25,6 @@ class ListBox {
 
   /// Removes every item and the selection. Raises nothing.
   virtual void clear() = 0;
-  /// Replaces all items at once (one rebuild, whatever their number) and removes the selection. Raises nothing.
-  virtual void assign(std::vector<std::string> items) = 0;
-  /// Shows lines that their owner keeps, in place of items of its own, until clear() or assign(), and removes the
-  /// selection. The owner calls it again when the lines changed as a whole. Raises nothing.
-  virtual void showLines(const ListLines& lines) = 0;
-  /// The lines that are shown have one more at the end; the selection stays.
-  virtual void lineAdded() = 0;
-  /// A line that is shown has another text; the selection stays.
-  virtual void lineChanged(int index) = 0;
-  /// Adds an item at the end; the selection stays.
-  virtual void addItem(std::string_view text) = 0;
-  /// Removes the item at `index`; a selection behind it moves along, a selection on it is gone. Raises nothing.
-  /// An index beyond the list is run-time error 5.
-  virtual void removeItem(int index) = 0;
-  /// Replaces the text of the item at `index`; the selection stays. An index beyond the list is run-time error 5.
-  virtual void setItemText(int index, std::string_view text) = 0;
 
   virtual int itemCount() const = 0;
   /// The text of the item at `index`. An index beyond the list is run-time error 5.

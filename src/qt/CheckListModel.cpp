@@ -15,7 +15,7 @@ void CheckListModel::append(std::string_view text, bool selected) {
 }
 
 void CheckListModel::toggle(int index) {
-  const std::size_t at = checked(index);
+  const auto at = static_cast<std::size_t>(texts().checked(index));
   selected_[at] = !selected_[at];
   const QModelIndex changed = this->index(index);
   emit dataChanged(changed, changed, {Qt::CheckStateRole});

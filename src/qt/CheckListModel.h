@@ -13,7 +13,7 @@ class CheckListModel : public TextListModel {
 
   void assign(std::vector<std::string> items) override;
   void append(std::string_view text, bool selected);
-  bool isSelected(int index) const { return selected_[checked(index)]; }
+  bool isSelected(int index) const { return selected_[static_cast<std::size_t>(texts().checked(index))]; }
   void toggle(int index);
 
   Qt::ItemFlags flags(const QModelIndex& index) const override;

@@ -60,10 +60,25 @@ void EditorScreen::outliveControl() {
 }
 
 ControlScreen EditorScreen::controls() {
-  return {fraCyclePart_, fraDescription_, txtCycleDescription_, fraAtom_,        lstAtomSequence_,
-          cmdInset_,     cmdReplace_,     cmdDelete_,           fraVariables_,   lstVariables_,
-          cmdIns_,       cmdDel_,         fraSelectedMacro_,    cboAtom_,        GrdAtom_,
-          cmdDefault_,   mnuSubParam_,    *tmrUpdateGrid_,      variableDialogs_};
+  return {.fraCyclePart = fraCyclePart_,
+          .fraDescription = fraDescription_,
+          .txtCycleDescription = txtCycleDescription_,
+          .fraAtom = fraAtom_,
+          .lstAtomSequence = lstAtomSequence_,
+          .cmdInset = cmdInset_,
+          .cmdReplace = cmdReplace_,
+          .cmdDelete = cmdDelete_,
+          .fraVariables = fraVariables_,
+          .lstVariables = lstVariables_,
+          .cmdIns = cmdIns_,
+          .cmdDel = cmdDel_,
+          .fraSelectedMacro = fraSelectedMacro_,
+          .cboAtom = cboAtom_,
+          .GrdAtom = GrdAtom_,
+          .cmdDefault = cmdDefault_,
+          .mnuSubParam = mnuSubParam_,
+          .tmrUpdateGrid = *tmrUpdateGrid_,
+          .variableDialogs = variableDialogs_};
 }
 
 void EditorScreen::layOut() {
@@ -129,7 +144,7 @@ void EditorScreen::connectKeys() {
   QObject::connect(lstVariables_.widget(), &TextListView::deletePressed, cmdDel_.widget(), &QPushButton::click);
   QObject::connect(lstAtomSequence_.widget(), &TextListView::returnPressed, GrdAtom_.view(),
                    &ValueListView::editCurrentRow);
-  QObject::connect(lstVariables_.widget(), &TextListView::returnPressed, &lstVariables_, &QtListBox::doubleClick);
+  QObject::connect(lstVariables_.widget(), &TextListView::returnPressed, &lstVariables_, &QtItemListBox::doubleClick);
 }
 
 // The way of the work: choose an atom, fill in its values, put it into the sequence.

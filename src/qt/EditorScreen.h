@@ -64,12 +64,12 @@ class EditorScreen {
   QtFrame fraDescription_{"fraDescription", fraCyclePart_.widget()};
   QtTextBox txtCycleDescription_{"txtCycleDescription", fraDescription_.widget()};
   QtFrame fraAtom_{"fraAtom", fraCyclePart_.widget()};
-  QtListBox lstAtomSequence_{gate_, "lstAtomSequence", fraAtom_.widget()};
+  QtLineListBox lstAtomSequence_{gate_, "lstAtomSequence", fraAtom_.widget()};
   QtButton cmdInset_{gate_, "cmdInset", fraAtom_.widget()};
   QtButton cmdReplace_{gate_, "cmdReplace", fraAtom_.widget()};
   QtButton cmdDelete_{gate_, "cmdDelete", fraAtom_.widget()};
   QtFrame fraVariables_{"fraVariables", fraCyclePart_.widget()};
-  QtListBox lstVariables_{gate_, "lstVariables", fraVariables_.widget()};
+  QtItemListBox lstVariables_{gate_, "lstVariables", fraVariables_.widget()};
   QtButton cmdIns_{gate_, "cmdIns", fraVariables_.widget()};
   QtButton cmdDel_{gate_, "cmdDel", fraVariables_.widget()};
   QtPopupMenu mnuSubParam_{gate_, "mnuParam", content_.get()};

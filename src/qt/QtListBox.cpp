@@ -8,19 +8,11 @@
 
 namespace mavCycEd::qt {
 
-QtListBox::QtListBox(const platform::CommandGate& gate, const char* name, QWidget* parent)
-    : gate_(gate), model_(new TextListModel), view_(new TextListView(model_, parent)) {
+QtListBox::QtListBox(const platform::CommandGate& gate, ListModel* model, const char* name, QWidget* parent)
+    : gate_(gate), model_(model), view_(new TextListView(model, parent)) {
   view_->setObjectName(QLatin1String(name));
   connect(view_, &TextListView::chosen, this, &QtListBox::raiseClick);
   connect(view_, &TextListView::doubleClickedItem, this, &QtListBox::doubleClick);
-}
-
-void QtListBox::removeItem(int index) {
-  const int before = view_->selectedRow();
-  model_->remove(index);
-  const int selected = before == index ? -1 : before - (before > index ? 1 : 0);
-  // The view may have selected the neighbour of an item that went.
-  if (view_->selectedRow() != selected) view_->select(selected);
 }
 
 void QtListBox::setIndex(int index) {

@@ -26,6 +26,24 @@ QtVariableDialog::~QtVariableDialog() {
   if (QWidget* const open = window()) help_.leave(open);
 }
 
+VariableDialogScreen QtVariableDialog::controls() {
+  return {.frmparams = frmparams_,
+          .fraValue = fraValue_,
+          .txtParamName = txtParamName_,
+          .fraParamType = fraParamType_,
+          .optNrValue = optNrValue_,
+          .optObjValue = optObjValue_,
+          .fraValues = fraValues_,
+          .grdParamStnd = grdParamStnd_,
+          .lblUnit = lblUnit_,
+          .cboUnit = cboUnit_,
+          .fraObjects = fraObjects_,
+          .lstObject = lstObject_,
+          .OKButton = OKButton_,
+          .cmdCancel = cmdCancel_,
+          .mnuSyrConstant = mnuSyrConstant_};
+}
+
 void QtVariableDialog::layOut() {
   (new QVBoxLayout(fraValue_.widget()))->addWidget(txtParamName_.widget());
 
@@ -80,9 +98,9 @@ void QtVariableDialog::nameForPeople() {
   mnuSyrConstant_.widget()->setAccessibleName(inWords("Offered values"));
 }
 
-std::unique_ptr<VariableDialogScreen> QtVariableDialogs::createVariableDialog() {
+std::unique_ptr<VariableDialogWindow> QtVariableDialogs::createVariableDialog() {
   auto dialog = std::make_unique<QtVariableDialog>(&control_, help_);
-  window_ = dialog->frmparams().widget();
+  window_ = dialog->dialog().widget();
   return dialog;
 }
 

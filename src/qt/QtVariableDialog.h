@@ -21,7 +21,7 @@ namespace mavCycEd::qt {
 
 /// The window of the variable dialog. Enter presses OK, once the value that is being typed has been entered; Esc
 /// closes, F1 shows the help over it.
-class QtVariableDialog : public VariableDialogScreen {
+class QtVariableDialog : public VariableDialogWindow {
  public:
   /// The help outlives the dialog.
   QtVariableDialog(QWidget* owner, HelpDesk& help);
@@ -29,21 +29,8 @@ class QtVariableDialog : public VariableDialogScreen {
   QtVariableDialog(const QtVariableDialog&) = delete;
   QtVariableDialog& operator=(const QtVariableDialog&) = delete;
 
-  QtModalDialog& frmparams() override { return frmparams_; }
-  platform::Frame& fraValue() override { return fraValue_; }
-  platform::TextBox& txtParamName() override { return txtParamName_; }
-  platform::Frame& fraParamType() override { return fraParamType_; }
-  platform::OptionButton& optNrValue() override { return optNrValue_; }
-  platform::OptionButton& optObjValue() override { return optObjValue_; }
-  platform::Frame& fraValues() override { return fraValues_; }
-  platform::ValueListActiveX& grdParamStnd() override { return grdParamStnd_; }
-  platform::Label& lblUnit() override { return lblUnit_; }
-  platform::ComboBox& cboUnit() override { return cboUnit_; }
-  platform::Frame& fraObjects() override { return fraObjects_; }
-  platform::SelectionList& lstObject() override { return lstObject_; }
-  platform::Button& OKButton() override { return OKButton_; }
-  platform::Button& cmdCancel() override { return cmdCancel_; }
-  platform::PopupMenu& mnuSyrConstant() override { return mnuSyrConstant_; }
+  VariableDialogScreen controls() override;
+  QtModalDialog& dialog() { return frmparams_; }
 
  private:
   QWidget* window() const { return frmparams_.widget(); }
@@ -76,7 +63,7 @@ class QtVariableDialogs : public VariableDialogFactory {
  public:
   QtVariableDialogs(QWidget& control, HelpDesk& help) : control_(control), help_(help) {}
 
-  std::unique_ptr<VariableDialogScreen> createVariableDialog() override;
+  std::unique_ptr<VariableDialogWindow> createVariableDialog() override;
 
   /// The control goes while a dialog's procedure is still running: the dialog's window leaves it, and goes when the
   /// procedure has ended.

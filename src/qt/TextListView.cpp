@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <functional>
+#include <utility>
 
 #include "qt/GridKeys.h"
 #include "qt/RowDelegate.h"
@@ -18,7 +20,9 @@ namespace {
 // sideways to the end of each text.
 class UniformDelegate : public RowDelegate {
  public:
-  UniformDelegate(const TextListModel& model, QObject* parent) : RowDelegate(parent), model_(model) {}
+  /// `grown`: a text turned up that needs more room.
+  UniformDelegate(ListModel& model, std::function<void()> grown, QObject* parent)
+      : RowDelegate(parent), model_(model), grown_(std::move(grown)) {}
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QString text = index.data().toString();
@@ -27,25 +31,33 @@ class UniformDelegate : public RowDelegate {
     return RowDelegate::sizeHint(option, index) + QSize(difference, 0);
   }
 
+ protected:
+  void paintRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    if (model_.notice(index.row())) grown_();
+    RowDelegate::paintRow(painter, option, index);
+  }
+
  private:
-  const TextListModel& model_;
+  ListModel& model_;
+  std::function<void()> grown_;
 };
 
 bool isReturn(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
 
 }  // namespace
 
-TextListView::TextListView(TextListModel* model, QWidget* parent) : QListView(parent) {
+TextListView::TextListView(ListModel* model, QWidget* parent) : QListView(parent) {
   model->setParent(this);
   setModel(model);
-  setItemDelegate(new UniformDelegate(*model, this));
+  setItemDelegate(new UniformDelegate(
+      *model, [this] { scheduleDelayedItemsLayout(); }, this));
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
   setSelectionMode(SingleSelection);
   setTextElideMode(Qt::ElideNone);
   setHorizontalScrollMode(ScrollPerPixel);
   setAutoScroll(false);  // bringIntoView() does it, once for any number of changes
-  connect(model, &TextListModel::dataChanged, this, [this] { scheduleDelayedItemsLayout(); });
+  connect(model, &ListModel::dataChanged, this, [this] { scheduleDelayedItemsLayout(); });
 }
 
 int TextListView::selectedRow() const {
@@ -66,6 +78,13 @@ void TextListView::selectInPlace(int row) {
   } else {
     selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::ClearAndSelect);
   }
+}
+
+// Qt's own view would select the neighbour of a selected row that goes.
+void TextListView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) {
+  const int current = currentIndex().row();
+  if (current >= first && current <= last) selectInPlace(-1);
+  QListView::rowsAboutToBeRemoved(parent, first, last);
 }
 
 // Qt's own views repaint the items that changed, and to know where they are they lay out all items, each time. It is

@@ -3,7 +3,7 @@
 #include <QListView>
 #include <QPersistentModelIndex>
 
-#include "qt/TextListModel.h"
+#include "qt/ListModel.h"
 
 namespace mavCycEd::qt {
 
@@ -14,7 +14,7 @@ class TextListView : public QListView {
 
  public:
   /// The model becomes the view's own.
-  TextListView(TextListModel* model, QWidget* parent);
+  TextListView(ListModel* model, QWidget* parent);
 
   /// The selected item, -1 for none.
   int selectedRow() const;
@@ -43,6 +43,7 @@ class TextListView : public QListView {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void showEvent(QShowEvent* event) override;
+  void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
 
  private:
   void bringIntoView(const QModelIndex& index);

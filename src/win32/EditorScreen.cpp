@@ -77,10 +77,25 @@ void EditorScreen::setFont(const platform::Font& font) {
 
 ControlScreen EditorScreen::controls() {
   EditorControls& c = controls_;
-  return {c.fraCyclePart, c.fraDescription, c.txtCycleDescription, c.fraAtom,       c.lstAtomSequence,
-          c.cmdInset,     c.cmdReplace,     c.cmdDelete,           c.fraVariables,  c.lstVariables,
-          c.cmdIns,       c.cmdDel,         c.fraSelectedMacro,    c.cboAtom,       c.GrdAtom,
-          c.cmdDefault,   c.mnuSubParam,    *c.tmrUpdateGrid,      variableDialogs_};
+  return {.fraCyclePart = c.fraCyclePart,
+          .fraDescription = c.fraDescription,
+          .txtCycleDescription = c.txtCycleDescription,
+          .fraAtom = c.fraAtom,
+          .lstAtomSequence = c.lstAtomSequence,
+          .cmdInset = c.cmdInset,
+          .cmdReplace = c.cmdReplace,
+          .cmdDelete = c.cmdDelete,
+          .fraVariables = c.fraVariables,
+          .lstVariables = c.lstVariables,
+          .cmdIns = c.cmdIns,
+          .cmdDel = c.cmdDel,
+          .fraSelectedMacro = c.fraSelectedMacro,
+          .cboAtom = c.cboAtom,
+          .GrdAtom = c.GrdAtom,
+          .cmdDefault = c.cmdDefault,
+          .mnuSubParam = c.mnuSubParam,
+          .tmrUpdateGrid = *c.tmrUpdateGrid,
+          .variableDialogs = variableDialogs_};
 }
 
 // The font at the window's scaling, then everything in its place.

@@ -36,11 +36,11 @@ struct EditorControls {
   Win32ValueList GrdAtom;
   Win32Button cmdInset;
   Win32Button cmdReplace;
-  Win32ListBox lstAtomSequence;
+  Win32LineListBox lstAtomSequence;
   Win32Button cmdDelete;
   Win32Button cmdDefault;
   Win32TextBox txtCycleDescription;
-  Win32ListBox lstVariables;
+  Win32ItemListBox lstVariables;
   Win32Button cmdIns;
   Win32Button cmdDel;
   Win32PopupMenu mnuSubParam;

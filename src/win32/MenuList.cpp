@@ -106,7 +106,7 @@ std::optional<LRESULT> MenuList::Entries::onMessage(UINT message, WPARAM wParam,
     return 0;
   }
   if (message == WM_LBUTTONDOWN) pressed_ = true;
-  const std::optional<LRESULT> answer = Win32ListBox::onMessage(message, wParam, lParam);
+  const std::optional<LRESULT> answer = Win32ItemListBox::onMessage(message, wParam, lParam);
   if (message == WM_LBUTTONUP && std::exchange(pressed_, false)) menu_.take();
   return answer;
 }

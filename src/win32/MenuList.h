@@ -28,10 +28,10 @@ class MenuList : public PanelWindow {
   std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  class Entries : public Win32ListBox {
+  class Entries : public Win32ItemListBox {
    public:
     Entries(const platform::CommandGate& gate, MenuList& menu)
-        : Win32ListBox(gate, menu.handle(), nullptr), menu_(menu) {}
+        : Win32ItemListBox(gate, menu.handle(), nullptr), menu_(menu) {}
 
    protected:
     std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

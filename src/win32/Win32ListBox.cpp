@@ -2,11 +2,16 @@
 
 #include <algorithm>
 
-#include "platform/RunTimeError.h"
 #include "win32/Dpi.h"
 #include "win32/Text.h"
 
 namespace mavCycEd::win32 {
+namespace {
+
+/// What the list tells itself when the message at hand has been dealt with.
+constexpr int WidthGrew = 1;
+
+}  // namespace
 
 Win32ListBox::Win32ListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame)
     : NativeWindow(
@@ -16,76 +21,24 @@ Win32ListBox::Win32ListBox(const platform::CommandGate& gate, HWND parent, Win32
            WS_EX_CLIENTEDGE}),
       gate_(gate) {}
 
-std::size_t Win32ListBox::checked(int index) const {
-  if (index < 0 || index >= itemCount()) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
-  return static_cast<std::size_t>(index);
-}
-
-void Win32ListBox::assign(std::vector<std::string> items) {
-  items_ = std::move(items);
-  lines_ = nullptr;
-  index_ = -1;
-  longest_ = 0;
-  for (const std::string& item : items_) longest_ = std::max(longest_, item.size());
-  showCount();
-}
-
-void Win32ListBox::showLines(const platform::ListLines& lines) {
-  items_.clear();
-  lines_ = &lines;
-  lineCount_ = lines.count();
-  index_ = -1;
-  showCount();
-}
-
-void Win32ListBox::lineAdded() {
-  ++lineCount_;
-  showCount();
-}
-
-void Win32ListBox::lineChanged(int index) {
-  checked(index);
-  showItem(index);
-}
-
-std::string Win32ListBox::itemText(int index) const {
-  const std::size_t at = checked(index);
-  return lines_ != nullptr ? lines_->text(index) : items_[at];
-}
-
 std::vector<std::string> Win32ListBox::items() const {
-  std::vector<std::string> texts;
-  for (int i = 0; i < itemCount(); ++i) texts.push_back(itemText(i));
-  return texts;
+  std::vector<std::string> items;
+  for (int i = 0; i < itemCount(); ++i) items.push_back(itemText(i));
+  return items;
 }
 
-void Win32ListBox::addItem(std::string_view text) {
-  items_.emplace_back(text);
-  longest_ = std::max(longest_, text.size());
+void Win32ListBox::reset() {
+  selection_.clear();
   showCount();
 }
 
-void Win32ListBox::removeItem(int index) {
-  items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(checked(index)));
-  if (index == index_) {
-    index_ = -1;
-  } else if (index < index_) {
-    --index_;
+void Win32ListBox::splice(const kit::Splice& change) {
+  selection_.splice(change);
+  if (change.isInPlace()) {
+    showAnew();
+  } else {
+    showCount();
   }
-  showCount();
-}
-
-void Win32ListBox::setItemText(int index, std::string_view text) {
-  items_[checked(index)] = text;
-  longest_ = std::max(longest_, text.size());
-  showItem(index);
-}
-
-void Win32ListBox::showItem(int index) {
-  RECT place{};
-  send(LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&place));
-  if (handle() != nullptr) InvalidateRect(handle(), &place, TRUE);
-  fitWidth();
 }
 
 // The window forgets selection and place when it is told a number of lines.
@@ -94,28 +47,31 @@ void Win32ListBox::showCount() {
   send(WM_SETREDRAW, FALSE);
   send(LB_SETCOUNT, static_cast<WPARAM>(itemCount()));
   send(LB_SETTOPINDEX, static_cast<WPARAM>(std::min<LRESULT>(top, std::max(itemCount() - 1, 0))));
-  send(LB_SETCURSEL, static_cast<WPARAM>(index_));
+  send(LB_SETCURSEL, static_cast<WPARAM>(index()));
   send(WM_SETREDRAW, TRUE);
+  showAnew();
+}
+
+void Win32ListBox::showAnew() {
   if (handle() != nullptr) InvalidateRect(handle(), nullptr, TRUE);
   fitWidth();
 }
 
-void Win32ListBox::showSelection() { send(LB_SETCURSEL, static_cast<WPARAM>(index_)); }
+void Win32ListBox::showSelection() { send(LB_SETCURSEL, static_cast<WPARAM>(index())); }
 
 // How far the list scrolls sideways: an estimate from the longest text, so that no line has to be measured.
 void Win32ListBox::fitWidth() {
   if (handle() == nullptr) return;
   const int average = TextMeasure(handle(), fontHandle()).averageWidth();
   constexpr std::size_t mostCharacters = 2000;
-  std::size_t characters = longest_;
-  if (lines_ != nullptr) characters = lines_->longest() < 0 ? 0 : lines_->text(lines_->longest()).size();
+  const int longest = texts().longest();
+  const std::size_t characters = longest < 0 ? 0 : itemText(longest).size();
   const int width = static_cast<int>(std::min(characters, mostCharacters)) * average + scaled(handle(), 8);
   send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width));
 }
 
 void Win32ListBox::setIndex(int index) {
-  if (index != -1) checked(index);
-  index_ = index;
+  selection_.select(index == -1 ? index : texts().checked(index));
   showSelection();
   tell(events_.Click);
 }
@@ -166,7 +122,7 @@ void Win32ListBox::press(LPARAM place) {
 }
 
 void Win32ListBox::choose(int index) {
-  index_ = index;
+  selection_.select(index);
   showSelection();
   raiseClick();
 }
@@ -180,14 +136,14 @@ void Win32ListBox::raiseClick() {
 void Win32ListBox::doubleClick() {
   const Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
-  if (alive && index_ >= 0) tell(events_.DblClick);
+  if (alive && index() >= 0) tell(events_.DblClick);
 }
 
 std::optional<LRESULT> Win32ListBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_LBUTTONDOWN: press(lParam); return 0;
     case WM_LBUTTONDBLCLK:
-      if (itemAt(lParam) >= 0 && itemAt(lParam) == index_) {
+      if (itemAt(lParam) >= 0 && itemAt(lParam) == index()) {
         doubleClick();
       } else {
         press(lParam);
@@ -216,14 +172,14 @@ std::optional<LRESULT> Win32ListBox::onKey(UINT message, WPARAM wParam, LPARAM l
     case VK_RETURN: tell(onReturn_); return 0;
     case VK_SPACE:
       if (control) {
-        if (index_ >= 0) choose(-1);
+        if (index() >= 0) choose(-1);
       } else if (itemCount() > 0) {
-        choose(index_ >= 0 ? index_ : static_cast<int>(send(LB_GETCARETINDEX)));
+        choose(index() >= 0 ? index() : static_cast<int>(send(LB_GETCARETINDEX)));
       }
       return 0;
     default: break;
   }
-  const int before = index_;
+  const int before = index();
   callSystem(message, wParam, lParam);
   const auto now = static_cast<int>(send(LB_GETCURSEL));
   if (now != before) choose(now);
@@ -243,14 +199,14 @@ bool Win32ListBox::searchFor(wchar_t character) {
   const bool isOne = searched_.find_first_not_of(character) == std::wstring::npos;
   const std::wstring wanted = isOne ? std::wstring(1, character) : searched_;
   const int count = itemCount();
-  const int first = std::max(index_, 0) + (isOne && index_ >= 0 ? 1 : 0);
+  const int first = std::max(index(), 0) + (isOne && index() >= 0 ? 1 : 0);
   for (int step = 0; step < count; ++step) {
-    const int index = (first + step) % count;
+    const int found = (first + step) % count;
     constexpr std::size_t bytesPerCharacter = 4;
-    std::wstring text = toWide(itemText(index).substr(0, bytesPerCharacter * wanted.size())).substr(0, wanted.size());
+    std::wstring text = toWide(itemText(found).substr(0, bytesPerCharacter * wanted.size())).substr(0, wanted.size());
     CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
     if (text != wanted) continue;
-    if (index != index_ || isOne) choose(index);
+    if (found != index() || isOne) choose(found);
     return true;
   }
   return true;
@@ -266,14 +222,20 @@ void Win32ListBox::onDraw(const DRAWITEMSTRUCT& item) {
   if (static_cast<int>(item.itemID) < itemCount() && item.itemID != static_cast<UINT>(-1)) {
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, GetSysColor(front));
+    const auto drawn = static_cast<int>(item.itemID);
+    if (notice(drawn)) post(WidthGrew);
     RECT place = item.rcItem;
     place.left += scaled(handle(), 4);
-    DrawTextW(item.hDC, toWideLine(itemText(static_cast<int>(item.itemID))).c_str(), -1, &place,
+    DrawTextW(item.hDC, toWideLine(itemText(drawn)).c_str(), -1, &place,
               DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_EXPANDTABS);
   }
   if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
     DrawFocusRect(item.hDC, &item.rcItem);
   }
+}
+
+void Win32ListBox::onPosted(int what) {
+  if (what == WidthGrew) fitWidth();
 }
 
 std::wstring Win32ListBox::Items::name(int item) const { return toWide(list_.itemText(item - 1)); }
@@ -286,6 +248,42 @@ RECT Win32ListBox::Items::place(int item) const {
   RECT visible{};
   IntersectRect(&visible, &place, &client);
   return visible;
+}
+
+void Win32ItemListBox::assign(std::vector<std::string> items) {
+  items_.assign(std::move(items));
+  reset();
+}
+
+void Win32ItemListBox::insertItem(int index, std::string_view text) {
+  items_.insert(index, text);
+  splice({.at = index, .removed = 0, .added = 1});
+}
+
+void Win32ItemListBox::removeItem(int index) {
+  items_.remove(index);
+  splice({.at = index, .removed = 1, .added = 0});
+}
+
+void Win32ItemListBox::setItemText(int index, std::string_view text) {
+  items_.setText(index, text);
+  splice({.at = index, .removed = 1, .added = 1});
+}
+
+void Win32LineListBox::clear() {
+  lines_.clear();
+  reset();
+}
+
+void Win32LineListBox::showLines(const platform::ListLines& lines) {
+  lines_.show(lines);
+  reset();
+}
+
+void Win32LineListBox::spliced(int at, int removed, int added) {
+  const kit::Splice change{.at = at, .removed = removed, .added = added};
+  lines_.splice(change);
+  splice(change);
 }
 
 }  // namespace mavCycEd::win32

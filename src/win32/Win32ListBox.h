@@ -1,13 +1,18 @@
 #pragma once
 
-#include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
+#include "kit/LineCount.h"
+#include "kit/ListItems.h"
+#include "kit/SelectionRanges.h"
 #include "platform/CommandGate.h"
-#include "platform/ListBox.h"
+#include "platform/ItemListBox.h"
+#include "platform/LineListBox.h"
 #include "win32/Accessible.h"
 #include "win32/NativeWindow.h"
 
@@ -17,22 +22,12 @@ namespace mavCycEd::win32 {
 ///
 /// It selects like a list box: the press of the button selects, a press below the items selects none, and every choice
 /// of a user is told, also one of the item that was selected already.
-class Win32ListBox : public platform::ListBox, public NativeWindow {
+class Win32ListBox : public virtual platform::ListBox, public NativeWindow {
  public:
-  Win32ListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame);
-
   void setEvents(platform::ListBoxEvents events) override { events_ = std::move(events); }
-  void clear() override { assign({}); }
-  void assign(std::vector<std::string> items) override;
-  void showLines(const platform::ListLines& lines) override;
-  void lineAdded() override;
-  void lineChanged(int index) override;
-  void addItem(std::string_view text) override;
-  void removeItem(int index) override;
-  void setItemText(int index, std::string_view text) override;
-  int itemCount() const override { return lines_ != nullptr ? lineCount_ : static_cast<int>(items_.size()); }
-  std::string itemText(int index) const override;
-  int index() const override { return index_; }
+  int itemCount() const override { return texts().count(); }
+  std::string itemText(int index) const override { return texts().text(index); }
+  int index() const override { return selection_.first(); }
   void setIndex(int index) override;
   platform::Font font() const override;
   void setItemFont(const platform::Font& font) override;
@@ -49,8 +44,19 @@ class Win32ListBox : public platform::ListBox, public NativeWindow {
   AccessibleItems* accessibleItems() override { return &accessibleItems_; }
 
  protected:
+  Win32ListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame);
+
+  virtual const kit::ListTexts& texts() const = 0;
+  /// A text is being drawn. True when the list needs more room for it than it was given.
+  virtual bool notice(int /*index*/) { return false; }
+  /// The texts have become others as a whole, and none is selected.
+  void reset();
+  /// Texts went and came, and those in view may be others.
+  void splice(const kit::Splice& change);
+
   std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void onDraw(const DRAWITEMSTRUCT& item) override;
+  void onPosted(int what) override;
 
  private:
   class Items : public AccessibleItems {
@@ -67,9 +73,8 @@ class Win32ListBox : public platform::ListBox, public NativeWindow {
     Win32ListBox& list_;
   };
 
-  std::size_t checked(int index) const;
   void showCount();
-  void showItem(int index);
+  void showAnew();
   void showSelection();
   void fitWidth();
   int itemAt(LPARAM place) const;
@@ -82,12 +87,8 @@ class Win32ListBox : public platform::ListBox, public NativeWindow {
 
   const platform::CommandGate& gate_;
   platform::ListBoxEvents events_;
-  std::vector<std::string> items_;
-  const platform::ListLines* lines_ = nullptr;  // null: the items are its own
-  int lineCount_ = 0;
-  int index_ = -1;
-  std::size_t longest_ = 0;  // of its own items, in bytes
-  std::wstring searched_;    // what was typed without a pause
+  kit::SelectionRanges selection_;
+  std::wstring searched_;  // what was typed without a pause
   ULONGLONG searchedAt_ = 0;
   std::function<void()> onDelete_;
   std::function<void()> onReturn_;
@@ -95,6 +96,44 @@ class Win32ListBox : public platform::ListBox, public NativeWindow {
   FontHandle itemFontHandle_;
   int dpi_ = USER_DEFAULT_SCREEN_DPI;
   Items accessibleItems_{*this};
+};
+
+/// A list of items.
+class Win32ItemListBox : public Win32ListBox, public platform::ItemListBox {
+ public:
+  Win32ItemListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame)
+      : Win32ListBox(gate, parent, frame) {}
+
+  void clear() override { assign({}); }
+  void assign(std::vector<std::string> items) override;
+  void addItem(std::string_view text) override { insertItem(itemCount(), text); }
+  void insertItem(int index, std::string_view text) override;
+  void removeItem(int index) override;
+  void setItemText(int index, std::string_view text) override;
+
+ protected:
+  const kit::ListTexts& texts() const override { return items_; }
+
+ private:
+  kit::ListItems items_;
+};
+
+/// A list of an owner's lines.
+class Win32LineListBox : public Win32ListBox, public platform::LineListBox {
+ public:
+  Win32LineListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame)
+      : Win32ListBox(gate, parent, frame) {}
+
+  void clear() override;
+  void showLines(const platform::ListLines& lines) override;
+  void spliced(int at, int removed, int added) override;
+
+ protected:
+  const kit::ListTexts& texts() const override { return lines_; }
+  bool notice(int index) override { return lines_.notice(index); }
+
+ private:
+  kit::LineCount lines_;
 };
 
 }  // namespace mavCycEd::win32

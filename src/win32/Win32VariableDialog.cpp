@@ -49,6 +49,25 @@ Win32VariableDialog::~Win32VariableDialog() {
   controls_.frmparams.window().setScalingChanged({});
 }
 
+VariableDialogScreen Win32VariableDialog::controls() {
+  VariableDialogControls& c = controls_;
+  return {.frmparams = c.frmparams,
+          .fraValue = c.fraValue,
+          .txtParamName = c.txtParamName,
+          .fraParamType = c.fraParamType,
+          .optNrValue = c.optNrValue,
+          .optObjValue = c.optObjValue,
+          .fraValues = c.fraValues,
+          .grdParamStnd = c.grdParamStnd,
+          .lblUnit = c.lblUnit,
+          .cboUnit = c.cboUnit,
+          .fraObjects = c.fraObjects,
+          .lstObject = c.lstObject,
+          .OKButton = c.OKButton,
+          .cmdCancel = c.cmdCancel,
+          .mnuSyrConstant = c.mnuSyrConstant};
+}
+
 void Win32VariableDialog::fit() {
   if (window() == nullptr) return;
   const int dpi = dpiOf(window());
@@ -124,14 +143,14 @@ void Win32VariableDialog::nameForPeople() {
 
 Win32VariableDialog* Win32VariableDialogs::open() const {
   Win32VariableDialog* const last = *last_;
-  return last != nullptr && last->frmparams().isLoaded() ? last : nullptr;
+  return last != nullptr && last->dialog().isLoaded() ? last : nullptr;
 }
 
-std::unique_ptr<VariableDialogScreen> Win32VariableDialogs::createVariableDialog() {
+std::unique_ptr<VariableDialogWindow> Win32VariableDialogs::createVariableDialog() {
   const ThemedScope themed;
   auto dialog = std::make_unique<Win32VariableDialog>(control_(), last_);
-  dialog->frmparams().window().setModality(modality_);
-  dialog->frmparams().window().setHelp(help_);
+  dialog->dialog().window().setModality(modality_);
+  dialog->dialog().window().setHelp(help_);
   return dialog;
 }
 

@@ -41,7 +41,7 @@ struct VariableDialogControls {
 };
 
 /// The window of the variable dialog.
-class Win32VariableDialog : public VariableDialogScreen {
+class Win32VariableDialog : public VariableDialogWindow {
  public:
   /// `place`: where the maker of dialogs finds this one for as long as it exists.
   Win32VariableDialog(HWND owner, std::shared_ptr<Win32VariableDialog*> place);
@@ -51,21 +51,8 @@ class Win32VariableDialog : public VariableDialogScreen {
 
   VariableDialogControls& windows() { return controls_; }
 
-  Win32ModalDialog& frmparams() override { return controls_.frmparams; }
-  platform::Frame& fraValue() override { return controls_.fraValue; }
-  platform::TextBox& txtParamName() override { return controls_.txtParamName; }
-  platform::Frame& fraParamType() override { return controls_.fraParamType; }
-  platform::OptionButton& optNrValue() override { return controls_.optNrValue; }
-  platform::OptionButton& optObjValue() override { return controls_.optObjValue; }
-  platform::Frame& fraValues() override { return controls_.fraValues; }
-  platform::ValueListActiveX& grdParamStnd() override { return controls_.grdParamStnd; }
-  platform::Label& lblUnit() override { return controls_.lblUnit; }
-  platform::ComboBox& cboUnit() override { return controls_.cboUnit; }
-  platform::Frame& fraObjects() override { return controls_.fraObjects; }
-  platform::SelectionList& lstObject() override { return controls_.lstObject; }
-  platform::Button& OKButton() override { return controls_.OKButton; }
-  platform::Button& cmdCancel() override { return controls_.cmdCancel; }
-  platform::PopupMenu& mnuSyrConstant() override { return controls_.mnuSyrConstant; }
+  VariableDialogScreen controls() override;
+  Win32ModalDialog& dialog() { return controls_.frmparams; }
 
  private:
   HWND window() const { return controls_.frmparams.window().handle(); }
@@ -92,7 +79,7 @@ class Win32VariableDialogs : public VariableDialogFactory {
   /// The dialog that was made last and is shown; nullptr when none is.
   Win32VariableDialog* open() const;
 
-  std::unique_ptr<VariableDialogScreen> createVariableDialog() override;
+  std::unique_ptr<VariableDialogWindow> createVariableDialog() override;
 
  private:
   std::function<HWND()> control_;

@@ -345,11 +345,14 @@ TEST(AtomSequenceEditingBehindAFailure, AnInsertShowsWhatWasReadBeforeIt) {
   EXPECT_THAT(editor.atomNames(), ElementsAre("A", "B"));
 }
 
-class BrokenList : public memory::MemoryListBox {
+class BrokenList : public memory::MemoryLineListBox {
  public:
-  BrokenList() : MemoryListBox(nullptr) {}
-  void lineChanged(int) override { throw RunTimeError(1, "no line"); }
-  void showLines(const platform::ListLines&) override { throw RunTimeError(2, "no list"); }
+  BrokenList() : MemoryLineListBox(nullptr) {}
+  void spliced(int, int, int) override { throw RunTimeError(1, "no line"); }
+  void showLines(const platform::ListLines& lines) override {
+    if (itemCount() > 0) throw RunTimeError(2, "no list");
+    MemoryLineListBox::showLines(lines);
+  }
 };
 
 TEST(AtomSequenceEditingFailures, AreReportedUnderTheProceduresName) {
@@ -371,7 +374,7 @@ TEST(AtomSequenceEditingFailures, AreReportedUnderTheProceduresName) {
     std::string furtherParameters(std::string_view) override { return {}; }
   } provider;
   ParamGrid paramGrid(GrdAtom, grid, helper, provider, sink);
-  memory::MemoryListBox lstVariables(nullptr);
+  memory::MemoryItemListBox lstVariables(nullptr);
   ExtraValues extraValues(GrdAtom, grid, lstVariables, sink);
   ValueValidation validation(GrdAtom, grid, helper, platform.messageBox, sink);
   AtomSequenceEditing editing(cycle, {lstAtomSequence, cboAtom, GrdAtom, tmrUpdateGrid},
@@ -380,7 +383,7 @@ TEST(AtomSequenceEditingFailures, AreReportedUnderTheProceduresName) {
   cboAtom.setIndex(0);
   cycle.atoms.Add("A", "", "", std::string());
   cycle.display.rebuild();
-  lstAtomSequence.addItem("01 A");
+  lstAtomSequence.showLines(cycle.display);
   lstAtomSequence.setIndex(0);
   editing.cmdReplace_Click();
   EXPECT_THAT(sink.procedures(), ElementsAre("cmdReplace_Click"));
@@ -388,10 +391,10 @@ TEST(AtomSequenceEditingFailures, AreReportedUnderTheProceduresName) {
   editing.cmdInset_Click();
   EXPECT_THAT(sink.procedures(), ::testing::Contains("lstRefresh"));
   sink.reports.clear();
-  lstAtomSequence.setIndex(-1);
-  cycle.atoms.Clear();
-  lstAtomSequence.addItem("02 B");
+  lstAtomSequence.clear();
+  lstAtomSequence.showLines(cycle.display);
   lstAtomSequence.setIndex(1);
+  cycle.atoms.Clear();
   editing.cmdDelete_Click();
   EXPECT_THAT(sink.procedures(), ElementsAre("cmdDelete_Click"));
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "TestDocuments.h"
+#include "TestLines.h"
 #include "TestPlatform.h"
 #include "memory/MemoryComboBox.h"
 #include "memory/MemoryListBox.h"
@@ -59,7 +60,8 @@ class CycleLoaderTest : public ::testing::Test {
     for (int row = 1; row <= 3; ++row) GrdAtom_.setValue(1, row, "old");
     cycle_.atoms.Clear();
     cycle_.atoms.Add("MIX", "", "", parameters);
-    lstAtomSequence_.assign({"01 MIX"});
+    cycle_.display.rebuild();
+    lstAtomSequence_.showLines(cycle_.display);
     lstAtomSequence_.setIndex(0);
     return {GrdAtom_.cellText(1, 1), GrdAtom_.cellText(1, 2), GrdAtom_.cellText(1, 3)};
   }
@@ -67,8 +69,8 @@ class CycleLoaderTest : public ::testing::Test {
   libxml2::Libxml2DocumentFactory xml_;
   CycleState cycle_;
   memory::MemoryTextBox txtCycleDescription_{nullptr};
-  memory::MemoryListBox lstVariables_{nullptr};
-  memory::MemoryListBox lstAtomSequence_{nullptr};
+  memory::MemoryItemListBox lstVariables_{nullptr};
+  memory::MemoryLineListBox lstAtomSequence_{nullptr};
   memory::MemoryComboBox cboAtom_{nullptr};
   memory::MemoryValueList GrdAtom_{nullptr};
   test::RecordingSink sink_;
@@ -104,7 +106,8 @@ TEST_F(CycleLoaderTest, ReplacesWhatTheScreenShowedButAddsToTheAtomLines) {
 TEST_F(CycleLoaderTest, WithoutVariablesNothingIsLoaded) {
   txtCycleDescription_.setText("old");
   lstVariables_.addItem("old");
-  lstAtomSequence_.addItem("old");
+  const test::TestLines old({"old"});
+  lstAtomSequence_.showLines(old);
   fill(
       "<CYCLE><DESCRIPTION>//new</DESCRIPTION><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>MIX</ATOMNAME></ATOM></ATOMS>"
       "</ATOMSEQUENCE></CYCLE>");
@@ -286,7 +289,8 @@ TEST_F(CycleLoaderTest, ADoubleClickRemovesTheSelection) {
 }
 
 TEST_F(CycleLoaderTest, ALineWithoutARecordIsReported) {
-  lstAtomSequence_.assign({"01 MIX"});
+  const test::TestLines lines({"01 MIX"});
+  lstAtomSequence_.showLines(lines);
   lstAtomSequence_.setIndex(0);
   EXPECT_THAT(sink_.procedures(), ElementsAre("lstAtomSequence_Click"));
   EXPECT_EQ(sink_.reports.front().number, 9);

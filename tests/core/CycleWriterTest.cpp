@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "TestLines.h"
 #include "TestPlatform.h"
 #include "memory/MemoryListBox.h"
 #include "memory/MemoryTextBox.h"
@@ -25,7 +26,8 @@ class CycleWriterTest : public ::testing::Test {
  protected:
   void addAtom(const std::string& name, const std::string& parameters = {}) {
     cycle_.atoms.Add(name, "", "", parameters);
-    lstAtomSequence_.addItem(name);
+    cycle_.display.append();
+    lstAtomSequence_.showLines(cycle_.display);
   }
   void setReference(std::string_view xml) { cycle_.reference.setLoaded(xml, factsOf(*parsed(xml))); }
   using Writer = std::string (CycleWriter::*)();
@@ -57,8 +59,8 @@ class CycleWriterTest : public ::testing::Test {
 
   CycleState cycle_;
   memory::MemoryTextBox txtCycleDescription_{nullptr};
-  memory::MemoryListBox lstVariables_{nullptr};
-  memory::MemoryListBox lstAtomSequence_{nullptr};
+  memory::MemoryItemListBox lstVariables_{nullptr};
+  memory::MemoryLineListBox lstAtomSequence_{nullptr};
   CycleScreen screen_{txtCycleDescription_, lstVariables_, lstAtomSequence_};
   libxml2::Libxml2DocumentFactory xml_;
   test::HandSetClock clock_;
@@ -77,7 +79,8 @@ TEST_F(CycleWriterTest, AtomLinesOrDisplayLinesAloneMakeASequence) {
   cycle_.atoms.Add("MIX", "", "", std::string());
   for (const Writer writer : writers) EXPECT_THAT(write(writer), StartsWith("<CYCLE"));
   cycle_.atoms.Clear();
-  lstAtomSequence_.addItem("01 MIX");
+  const test::TestLines lines({"01 MIX"});
+  lstAtomSequence_.showLines(lines);
   for (const Writer writer : writers) EXPECT_THAT(write(writer), StartsWith("<CYCLE"));
 }
 

@@ -81,9 +81,9 @@ class FontGrid : public memory::MemoryValueList {
   void setCellFont(const platform::Font& font) override { cells = font; }
   platform::Font cells;
 };
-class FontList : public memory::MemoryListBox {
+class FontList : public memory::MemoryItemListBox {
  public:
-  FontList() : MemoryListBox(nullptr) {}
+  FontList() : MemoryItemListBox(nullptr) {}
   platform::Font font() const override { return {.faceName = "List", .pointSize = 8, .characterSet = 161}; }
   void setItemFont(const platform::Font& font) override { items = font; }
   platform::Font items;
@@ -95,10 +95,25 @@ TEST(EditorControlStart, CopiesTheFontsOfGridAndVariables) {
   FontGrid grid;
   FontList variables;
   const ControlScreen made = screen.controls();
-  const EditorControl control({made.fraCyclePart, made.fraDescription, made.txtCycleDescription, made.fraAtom,
-                               made.lstAtomSequence, made.cmdInset, made.cmdReplace, made.cmdDelete, made.fraVariables,
-                               variables, made.cmdIns, made.cmdDel, made.fraSelectedMacro, made.cboAtom, grid,
-                               made.cmdDefault, made.mnuSubParam, made.tmrUpdateGrid, made.variableDialogs},
+  const EditorControl control({.fraCyclePart = made.fraCyclePart,
+                               .fraDescription = made.fraDescription,
+                               .txtCycleDescription = made.txtCycleDescription,
+                               .fraAtom = made.fraAtom,
+                               .lstAtomSequence = made.lstAtomSequence,
+                               .cmdInset = made.cmdInset,
+                               .cmdReplace = made.cmdReplace,
+                               .cmdDelete = made.cmdDelete,
+                               .fraVariables = made.fraVariables,
+                               .lstVariables = variables,
+                               .cmdIns = made.cmdIns,
+                               .cmdDel = made.cmdDel,
+                               .fraSelectedMacro = made.fraSelectedMacro,
+                               .cboAtom = made.cboAtom,
+                               .GrdAtom = grid,
+                               .cmdDefault = made.cmdDefault,
+                               .mnuSubParam = made.mnuSubParam,
+                               .tmrUpdateGrid = made.tmrUpdateGrid,
+                               .variableDialogs = made.variableDialogs},
                               platform.services(), {});
   EXPECT_EQ(grid.cells, grid.font());
   EXPECT_EQ(variables.items, variables.font());

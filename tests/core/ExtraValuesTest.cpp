@@ -25,12 +25,12 @@ class BrokenGrid : public memory::MemoryValueList {
 };
 
 /// A list that cannot read one of its items.
-class BrokenList : public memory::MemoryListBox {
+class BrokenList : public memory::MemoryItemListBox {
  public:
-  using MemoryListBox::MemoryListBox;
+  using MemoryItemListBox::MemoryItemListBox;
   std::string itemText(int index) const override {
     if (index == brokenItem) throw RunTimeError(78, "no item");
-    return MemoryListBox::itemText(index);
+    return MemoryItemListBox::itemText(index);
   }
   int brokenItem = -1;
 };

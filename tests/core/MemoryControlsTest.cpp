@@ -30,7 +30,7 @@ class MemoryListBoxTest : public ::testing::Test {
     list_.setEvents({.Click = [this] { events_.push_back("click " + std::to_string(list_.index())); },
                      .DblClick = [this] { events_.push_back("double " + std::to_string(list_.index())); }});
   }
-  MemoryListBox list_{nullptr};
+  MemoryItemListBox list_{nullptr};
   std::vector<std::string> events_;
 };
 

@@ -48,7 +48,7 @@ RC_GTEST_PROP(WrittenCycle, ReadsAsIfItCameFromADocument, ()) {
     const std::string name = *oddText();
     atoms.Add(name, "", "", *oddText());
   }
-  memory::MemoryListBox variables(nullptr);
+  memory::MemoryItemListBox variables(nullptr);
   variables.assign(*rc::gen::container<std::vector<std::string>>(oddText()));
   const std::string description = "//" + *oddText();
   CycleFacts facts{.version = *rc::gen::element<std::string>("02", "03"), .created = {}, .modified = {}};
@@ -66,7 +66,7 @@ RC_GTEST_PROP(WrittenCycle, ReadsAsIfItCameFromADocument, ()) {
 TEST(WrittenCycle, NeedsNoDocumentForOrdinaryTexts) {
   cAtoms atoms;
   atoms.Add("Größe > 1", "", "", std::string("VOLUME;10;20\rµl;SYR.1 [a]\rEMPTY;\rNAME"));
-  memory::MemoryListBox variables(nullptr);
+  memory::MemoryItemListBox variables(nullptr);
   variables.assign({"Vol (µl);10;0;100", "  ", " Rack;TRAY"});
   const CycleFacts facts{.version = "03", .created = "2024-03-09T14:05:00", .modified = "2024-03-09T14:05:00"};
   const CycleContent content{atoms, variables, "//a<b & c\r\nd", facts};

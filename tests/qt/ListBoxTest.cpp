@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "ListBoxContract.h"
 #include "platform/CommandGate.h"
 #include "platform/RunTimeError.h"
 #include "qt/QtListBox.h"
@@ -15,6 +16,20 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+class QtEdition {
+ public:
+  platform::ItemListBox& items() { return items_; }
+  platform::LineListBox& lines() { return lines_; }
+
+ private:
+  platform::CommandGate gate_;
+  QWidget owner_;
+  qt::QtItemListBox items_{gate_, "items", &owner_};
+  qt::QtLineListBox lines_{gate_, "lines", &owner_};
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ListBoxContract, QtEdition);
 
 class ListBox : public testing::Test {
  protected:
@@ -34,7 +49,7 @@ class ListBox : public testing::Test {
 
   platform::CommandGate gate;
   QWidget owner;
-  qt::QtListBox list{gate, "list", nullptr};
+  qt::QtItemListBox list{gate, "list", nullptr};
   std::unique_ptr<QWidget> viewOwner{list.widget()};
   std::vector<std::string> log;
 };
@@ -135,38 +150,9 @@ TEST_F(ListBox, CodeTellsOneClickEachTime) {
   EXPECT_THAT(told(), IsEmpty());
 }
 
-TEST_F(ListBox, IndexesBeyondTheListAreErrors) {
-  EXPECT_THROW(list.itemText(3), RunTimeError);
-  EXPECT_THROW(list.setItemText(-1, ""), RunTimeError);
-  EXPECT_THROW(list.removeItem(3), RunTimeError);
-  EXPECT_EQ(list.itemCount(), 3);
-}
-
-TEST_F(ListBox, RemovedItemsTakeTheSelectionAlong) {
-  list.setIndex(2);
-  told();
-  list.removeItem(0);
-  EXPECT_EQ(list.index(), 1);
-  list.removeItem(1);
-  EXPECT_EQ(list.index(), -1);
-  list.removeItem(0);
-  EXPECT_EQ(list.index(), -1);
-  EXPECT_EQ(list.itemCount(), 0);
-  EXPECT_THAT(told(), IsEmpty());
-}
-
 TEST_F(ListBox, RemovalWithoutASelectionSelectsNothing) {
   list.removeItem(0);
   EXPECT_EQ(list.index(), -1);
-}
-
-TEST_F(ListBox, NewTextsAndItemsKeepTheSelection) {
-  list.setIndex(1);
-  list.setItemText(1, "02 DISPENSE");
-  list.addItem("04 END");
-  EXPECT_EQ(list.index(), 1);
-  EXPECT_EQ(list.itemText(1), "02 DISPENSE");
-  EXPECT_EQ(list.itemText(3), "04 END");
 }
 
 TEST_F(ListBox, AssigningIsOneResetAndTellsNothing) {
@@ -221,7 +207,7 @@ TEST_F(ListBox, HandlerMayReplaceTheItems) {
 
 TEST_F(ListBox, HandlerMayDestroyTheList) {
   const QPointer<QWidget> window(new QWidget);
-  auto* const doomed = new qt::QtListBox(gate, "doomed", window);
+  auto* const doomed = new qt::QtItemListBox(gate, "doomed", window);
   doomed->assign({"a"});
   doomed->setEvents({.Click =
                          [&] {
@@ -232,6 +218,85 @@ TEST_F(ListBox, HandlerMayDestroyTheList) {
   window->show();
   QTest::mousePress(doomed->widget()->viewport(), Qt::LeftButton, {}, {5, 5});
   EXPECT_TRUE(window.isNull());
+}
+
+class LineList : public testing::Test {
+ protected:
+  static constexpr int count = 100'000;
+
+  LineList() {
+    for (int i = 0; i < count; ++i) owned.texts.push_back(std::to_string(i) + " ASPIRATE");
+    list.showLines(owned);
+    view().resize(200, 200);
+    owner.show();
+    QCoreApplication::processEvents();
+    owned.longestAsked = 0;
+  }
+
+  qt::TextListView& view() { return *list.widget(); }
+  void splice(int at, int removed, const std::vector<std::string>& added) {
+    owned.splice(at, removed, added);
+    list.spliced(at, removed, static_cast<int>(added.size()));
+    QCoreApplication::processEvents();
+  }
+  int topRow() { return view().indexAt(QPoint(2, 2)).row(); }
+
+  platform::CommandGate gate;
+  QWidget owner;
+  TestLines owned;
+  qt::QtLineListBox list{gate, "list", &owner};
+};
+
+TEST_F(LineList, ASpliceIsNoReset) {
+  const QSignalSpy resets(view().model(), &QAbstractItemModel::modelReset);
+  const QSignalSpy insertions(view().model(), &QAbstractItemModel::rowsInserted);
+  const QSignalSpy removals(view().model(), &QAbstractItemModel::rowsRemoved);
+  const QSignalSpy changes(view().model(), &QAbstractItemModel::dataChanged);
+  splice(50'000, 0, {"MIX"});
+  splice(50'000, 1, {});
+  splice(10, 1, {"WAIT"});
+  EXPECT_EQ(resets.count(), 0);
+  EXPECT_EQ(insertions.count(), 1);
+  EXPECT_EQ(removals.count(), 1);
+  EXPECT_EQ(changes.count(), 3) << "all others may have another number";
+}
+
+TEST_F(LineList, ASpliceStaysWhereTheListIsScrolledTo) {
+  list.setIndex(70'000);
+  QCoreApplication::processEvents();
+  const int top = topRow();
+  ASSERT_GT(top, 69'000);
+  splice(80'000, 0, {"MIX"});
+  splice(70'000, 1, {});
+  EXPECT_EQ(list.index(), -1);
+  splice(10, 5, {"MIX"});
+  splice(0, 0, {"MIX", "MIX"});
+  EXPECT_EQ(topRow(), top);
+  EXPECT_EQ(list.index(), -1) << "the view selects nothing by itself";
+}
+
+TEST_F(LineList, TheLongestLineIsNotLookedForAtEverySplice) {
+  for (int i = 0; i < 10; ++i) splice(50'000, 0, {"MIX"});
+  EXPECT_EQ(owned.longestAsked, 0);
+}
+
+TEST_F(LineList, ALineThatHasBecomeLongerCanBeScrolledTo) {
+  splice(50'000, 0, {"MIX"});
+  const int before = view().visualRect(view().model()->index(0, 0)).width();
+  owned.texts[1].insert(0, 200, ' ');
+  splice(0, 0, {"REPEAT"});
+  view().grab();
+  QCoreApplication::processEvents();
+  EXPECT_GT(view().visualRect(view().model()->index(0, 0)).width(), 2 * before);
+}
+
+TEST_F(LineList, LinesThatTheOwnerHasDroppedAreEmptyUntilItTells) {
+  owned.texts.clear();
+  EXPECT_EQ(list.itemCount(), count);
+  EXPECT_EQ(list.itemText(count - 1), "");
+  view().grab();
+  list.spliced(0, count, 0);
+  EXPECT_EQ(list.itemCount(), 0);
 }
 
 TEST(SelectionList, ClicksAndTheSpaceBarToggle) {

@@ -66,7 +66,7 @@ TEST(RowLook, FocusIsSeenOnASelectedLine) {
   QWidget window;
   auto* const layout = new QVBoxLayout(&window);
   const platform::CommandGate gate;
-  qt::QtListBox list(gate, "list", &window);
+  qt::QtItemListBox list(gate, "list", &window);
   auto* const other = new QPushButton(&window);
   layout->addWidget(list.widget());
   layout->addWidget(other);

@@ -19,22 +19,22 @@ class VariableDialog : public testing::Test {
  protected:
   VariableDialog() {
     owner.show();
-    dialog.OKButton().setCaption("OK");
-    dialog.cmdCancel().setCaption("&Cancel");
-    dialog.OKButton().setEvents({[this] {
+    dialog.OKButton.setCaption("OK");
+    dialog.cmdCancel.setCaption("&Cancel");
+    dialog.OKButton.setEvents({[this] {
       log.push_back("OK");
-      dialog.frmparams().close();
+      dialog.frmparams.close();
     }});
-    dialog.cmdCancel().setEvents({[this] {
+    dialog.cmdCancel.setEvents({[this] {
       log.push_back("Cancel");
-      dialog.frmparams().close();
+      dialog.frmparams.close();
     }});
-    dialog.frmparams().setEvents({[this] { log.push_back("Close"); }});
+    dialog.frmparams.setEvents({[this] { log.push_back("Close"); }});
     platform::ValueListEvents events;
     events.EndOfEdit = [this](int, int, const std::string&, const std::string& value) { log.push_back(value); };
-    dialog.grdParamStnd().setEvents(events);
-    dialog.grdParamStnd().InsertRow("Default Value", "", true);
-    dialog.grdParamStnd().InsertRow("Lower limit", "", true);
+    dialog.grdParamStnd.setEvents(events);
+    dialog.grdParamStnd.InsertRow("Default Value", "", true);
+    dialog.grdParamStnd.InsertRow("Lower limit", "", true);
   }
 
   template <typename Widget = QWidget>
@@ -53,25 +53,26 @@ class VariableDialog : public testing::Test {
       auto& window = widget<QDialog>("frmparams");
       showActive(window);
       work();
-      if (dialog.frmparams().isLoaded()) window.close();
+      if (dialog.frmparams.isLoaded()) window.close();
     });
-    dialog.frmparams().showModal();
+    dialog.frmparams.showModal();
   }
 
   QWidget owner;
   qt::HelpDesk help{owner};
-  qt::QtVariableDialog dialog{&owner, help};
+  qt::QtVariableDialog dialogWindow{&owner, help};
+  VariableDialogScreen dialog = dialogWindow.controls();
   std::vector<std::string> log;
 };
 
 TEST_F(VariableDialog, EnterPressesOkFromTheNameBox) {
   show([this] {
-    EXPECT_NE(dialog.frmparams().hWnd(), 0U);
+    EXPECT_NE(dialog.frmparams.hWnd(), 0U);
     EXPECT_TRUE(widget("txtParamName").hasFocus());
     QTest::keyClick(&widget("txtParamName"), Qt::Key_Return);
   });
-  EXPECT_FALSE(dialog.frmparams().isLoaded());
-  EXPECT_EQ(dialog.frmparams().hWnd(), 0U);
+  EXPECT_FALSE(dialog.frmparams.isLoaded());
+  EXPECT_EQ(dialog.frmparams.hWnd(), 0U);
   EXPECT_THAT(log, ElementsAre("OK"));
 }
 
@@ -81,15 +82,15 @@ TEST_F(VariableDialog, EnterGoesThroughTheSettingsToOk) {
     grid.setFocus();
     type("5");
     press(Qt::Key_Return);
-    EXPECT_TRUE(dialog.frmparams().isLoaded());
-    EXPECT_EQ(dialog.grdParamStnd().Row(), 2);
+    EXPECT_TRUE(dialog.frmparams.isLoaded());
+    EXPECT_EQ(dialog.grdParamStnd.Row(), 2);
     EXPECT_FALSE(grid.hasFocus()) << "the next value is being edited";
     type("0");
     press(Qt::Key_Enter, Qt::KeypadModifier);
-    EXPECT_TRUE(dialog.frmparams().isLoaded());
+    EXPECT_TRUE(dialog.frmparams.isLoaded());
     EXPECT_TRUE(grid.hasFocus());
     press(Qt::Key_Enter, Qt::KeypadModifier);
-    EXPECT_FALSE(dialog.frmparams().isLoaded());
+    EXPECT_FALSE(dialog.frmparams.isLoaded());
   });
   EXPECT_THAT(log, ElementsAre("5", "0", "OK"));
 }
@@ -104,16 +105,16 @@ TEST_F(VariableDialog, TabAndF2LeadToTheSettings) {
     press(Qt::Key_Tab);
     type("0");
     press(Qt::Key_Tab);
-    EXPECT_EQ(dialog.grdParamStnd().cellText(1, 2), "0");
+    EXPECT_EQ(dialog.grdParamStnd.cellText(1, 2), "0");
     EXPECT_TRUE(widget("cboUnit").hasFocus());
   });
   EXPECT_THAT(log, ElementsAre("5", "0", "Close"));
 }
 
 TEST_F(VariableDialog, RefusedOkMayOpenAnEditor) {
-  dialog.OKButton().setEvents({[this] {
+  dialog.OKButton.setEvents({[this] {
     log.push_back("OK");
-    dialog.grdParamStnd().focusValue(1);
+    dialog.grdParamStnd.focusValue(1);
   }});
   show([this] {
     widget<QTableView>("grdParamStnd").setFocus();
@@ -121,9 +122,9 @@ TEST_F(VariableDialog, RefusedOkMayOpenAnEditor) {
     type("5");
     press(Qt::Key_Return);
     press(Qt::Key_Return);
-    EXPECT_TRUE(dialog.frmparams().isLoaded());
+    EXPECT_TRUE(dialog.frmparams.isLoaded());
     type("7");
-    EXPECT_EQ(dialog.grdParamStnd().cellText(1, 1), "7");
+    EXPECT_EQ(dialog.grdParamStnd.cellText(1, 1), "7");
   });
   EXPECT_THAT(log, ElementsAre("5", "OK", "Close"));
 }
@@ -134,10 +135,10 @@ TEST_F(VariableDialog, EscapeGivesUpAnEditFirstAndThenTheDialog) {
     grid.setFocus();
     QTest::keyClicks(&grid, "5");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    EXPECT_TRUE(dialog.frmparams().isLoaded());
-    EXPECT_EQ(dialog.grdParamStnd().cellText(1, 1), "");
+    EXPECT_TRUE(dialog.frmparams.isLoaded());
+    EXPECT_EQ(dialog.grdParamStnd.cellText(1, 1), "");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    EXPECT_FALSE(dialog.frmparams().isLoaded());
+    EXPECT_FALSE(dialog.frmparams.isLoaded());
   });
   EXPECT_THAT(log, ElementsAre("Close"));
 }
@@ -159,12 +160,12 @@ TEST_F(VariableDialog, TypedValueIsEndedBeforeOk) {
 
 TEST_F(VariableDialog, OptionsTellEachChangeOnceHoweverItIsMade) {
   std::vector<std::string> clicks;
-  dialog.optNrValue().setCaption("&Numeric Value");
-  dialog.optObjValue().setCaption("&Object");
-  dialog.optNrValue().setEvents({[&] { clicks.emplace_back("number"); }});
-  dialog.optObjValue().setEvents({[&] { clicks.emplace_back("object"); }});
+  dialog.optNrValue.setCaption("&Numeric Value");
+  dialog.optObjValue.setCaption("&Object");
+  dialog.optNrValue.setEvents({[&] { clicks.emplace_back("number"); }});
+  dialog.optObjValue.setEvents({[&] { clicks.emplace_back("object"); }});
   const auto now = [&clicks] { return std::exchange(clicks, {}); };
-  dialog.optNrValue().select();
+  dialog.optNrValue.select();
   EXPECT_THAT(now(), ElementsAre("number"));
   show([&] {
     auto& number = widget("optNrValue");
@@ -185,7 +186,7 @@ TEST_F(VariableDialog, OptionsTellEachChangeOnceHoweverItIsMade) {
     QTest::keyClick(&object, Qt::Key_N, Qt::AltModifier);
     QTest::qWait(300);
     EXPECT_THAT(now(), ElementsAre("number"));
-    dialog.optObjValue().select();
+    dialog.optObjValue.select();
     QTest::mouseClick(&object, Qt::LeftButton);
     EXPECT_THAT(now(), ElementsAre("object"));
   });
@@ -193,8 +194,8 @@ TEST_F(VariableDialog, OptionsTellEachChangeOnceHoweverItIsMade) {
 
 TEST_F(VariableDialog, AnOptionChosenByAssistiveTechnologyIsTold) {
   int clicks = 0;
-  dialog.optNrValue().select();
-  dialog.optObjValue().setEvents({[&clicks] { ++clicks; }});
+  dialog.optNrValue.select();
+  dialog.optObjValue.setEvents({[&clicks] { ++clicks; }});
   show([this] {
     QAccessibleInterface* const option = QAccessible::queryAccessibleInterface(&widget("optObjValue"));
     ASSERT_NE(option, nullptr);
@@ -205,24 +206,24 @@ TEST_F(VariableDialog, AnOptionChosenByAssistiveTechnologyIsTold) {
 
 TEST_F(VariableDialog, OptionsAreOneGroup) {
   std::vector<std::string> clicks;
-  dialog.optNrValue().setEvents({[&] { clicks.emplace_back("number"); }});
-  dialog.optObjValue().setEvents({[&] { clicks.emplace_back("object"); }});
-  dialog.optNrValue().select();
-  dialog.optNrValue().select();
-  EXPECT_TRUE(dialog.optNrValue().value());
+  dialog.optNrValue.setEvents({[&] { clicks.emplace_back("number"); }});
+  dialog.optObjValue.setEvents({[&] { clicks.emplace_back("object"); }});
+  dialog.optNrValue.select();
+  dialog.optNrValue.select();
+  EXPECT_TRUE(dialog.optNrValue.value());
   show([this] { QTest::mouseClick(&widget("optObjValue"), Qt::LeftButton); });
-  EXPECT_FALSE(dialog.optNrValue().value());
-  EXPECT_TRUE(dialog.optObjValue().value());
+  EXPECT_FALSE(dialog.optNrValue.value());
+  EXPECT_TRUE(dialog.optObjValue.value());
   EXPECT_THAT(clicks, ElementsAre("number", "number", "object"));
 }
 
 TEST_F(VariableDialog, FramesHaveTheirOwnSettings) {
-  dialog.fraValues().setVisible(false);
-  dialog.fraValues().setEnabled(false);
-  EXPECT_FALSE(dialog.fraValues().isVisible());
-  EXPECT_FALSE(dialog.fraValues().isEnabled());
-  EXPECT_TRUE(dialog.fraObjects().isVisible());
-  EXPECT_TRUE(dialog.fraObjects().isEnabled());
+  dialog.fraValues.setVisible(false);
+  dialog.fraValues.setEnabled(false);
+  EXPECT_FALSE(dialog.fraValues.isVisible());
+  EXPECT_FALSE(dialog.fraValues.isEnabled());
+  EXPECT_TRUE(dialog.fraObjects.isVisible());
+  EXPECT_TRUE(dialog.fraObjects.isEnabled());
   show([this] {
     EXPECT_FALSE(widget("grdParamStnd").isVisible());
     EXPECT_TRUE(widget("lstObject").isVisible());

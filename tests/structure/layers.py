@@ -16,16 +16,17 @@ CORE = ("platform", "text", "catalogue", "cycle", "paramgrid", "editing", "contr
 ROOMS = {
     "platform": (),
     "text": ("platform",),
+    "kit": ("platform", "text"),
     "catalogue": ("platform", "text"),
     "cycle": ("platform", "text", "catalogue", "paramgrid"),
     "paramgrid": ("platform", "text", "catalogue"),
     "editing": ("platform", "text", "catalogue", "cycle", "paramgrid"),
     "control": ("platform", "text", "catalogue", "cycle", "paramgrid", "editing"),
     "libxml2": ("platform", "text"),
-    "memory": CORE,
-    "qt": (*CORE, "libxml2"),
-    "win32": CORE,
-    "com": (*CORE, "libxml2", "win32"),
+    "memory": (*CORE, "kit"),
+    "qt": (*CORE, "kit", "libxml2"),
+    "win32": (*CORE, "kit"),
+    "com": (*CORE, "kit", "libxml2", "win32"),
 }
 
 # Single headers behind which the rest of their room stays hidden from other rooms.

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "TestLines.h"
 #include "TestWindow.h"
 #include "Win32OwnDesktop.h"
 #include "win32/CellEditor.h"
@@ -159,9 +160,11 @@ TEST_F(Win32EditorTest, HasNamesForAssistiveTechnology) {
   EXPECT_EQ(accessibleText(view(), CHILDID_SELF, false), L"Atom parameters");
   EXPECT_EQ(accessibleText(view(), 1, false), L"Volume(ul)");
   EXPECT_EQ(accessibleText(view(), 1, true), L"7");
-  editor_.windows().lstAtomSequence.assign({"01 MIX", "02 WAIT"});
+  const mavCycEd::test::TestLines lines({"01 MIX", "02 WAIT"});
+  editor_.windows().lstAtomSequence.showLines(lines);
   EXPECT_EQ(accessibleText(editor_.windows().lstAtomSequence.handle(), 2, false), L"02 WAIT");
   EXPECT_EQ(accessibleText(editor_.windows().cmdInset.handle(), CHILDID_SELF, false), L"Insert atom");
+  editor_.windows().lstAtomSequence.clear();
   CoUninitialize();
 }
 

@@ -78,7 +78,7 @@ TEST(Win32Help, F1ShowsTheHelpOverTheVariableDialog) {
     Win32VariableDialog* const dialog = inDialog->editor().screen().variableDialogs().open();
     if (dialog == nullptr) return;
     KillTimer(nullptr, timer);
-    dialogWindow = dialog->frmparams().window().handle();
+    dialogWindow = dialog->dialog().window().handle();
     pressF1(dialog->windows().txtParamName.handle());
     SendMessageW(dialogWindow, WM_CLOSE, 0, 0);
   });

@@ -3,11 +3,25 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ListBoxContract.h"
 #include "TestWindow.h"
 #include "platform/RunTimeError.h"
 #include "win32/Dpi.h"
 
 namespace mavCycEd::win32::test {
+
+class Win32Edition {
+ public:
+  platform::ItemListBox& items() { return items_; }
+  platform::LineListBox& lines() { return lines_; }
+
+ private:
+  HostWindow host_;
+  platform::CommandGate gate_;
+  Win32ItemListBox items_{gate_, host_.handle(), nullptr};
+  Win32LineListBox lines_{gate_, host_.handle(), nullptr};
+};
+
 namespace {
 
 using ::testing::ElementsAre;
@@ -29,7 +43,7 @@ class Win32ListBoxTest : public ::testing::Test {
 
   HostWindow host_;
   platform::CommandGate gate_;
-  Win32ListBox list_{gate_, host_.handle(), nullptr};
+  Win32ItemListBox list_{gate_, host_.handle(), nullptr};
   std::vector<std::string> events_;
 };
 
@@ -107,5 +121,42 @@ TEST_F(Win32ListBoxTest, WithoutItsWindowItKeepsItsItems) {
   EXPECT_EQ(list_.index(), 2);
 }
 
+TEST(Win32LineListBox, ASpliceStaysWhereTheListIsScrolledTo) {
+  const HostWindow host;
+  const platform::CommandGate gate;
+  Win32LineListBox list(gate, host.handle(), nullptr);
+  list.setScreenFont(makeFont(systemFont(96)), 96);
+  list.place({0, 0, 200, 200});
+  mavCycEd::test::TestLines owned(std::vector<std::string>(100'000, "01 MIX"));
+  list.showLines(owned);
+  owned.longestAsked = 0;
+  const auto splice = [&](int at, int removed, const std::vector<std::string>& added) {
+    owned.splice(at, removed, added);
+    list.spliced(at, removed, static_cast<int>(added.size()));
+  };
+  const auto shown = [&](UINT what) { return SendMessageW(list.handle(), what, 0, 0); };
+  list.setIndex(70'000);
+  const LRESULT top = shown(LB_GETTOPINDEX);
+  ASSERT_GT(top, 69'000);
+  splice(70'001, 0, {"02 MIX"});
+  EXPECT_EQ(shown(LB_GETCURSEL), 70'000);
+  EXPECT_EQ(shown(LB_GETCOUNT), 100'001);
+  EXPECT_EQ(shown(LB_GETTOPINDEX), top);
+  splice(70'000, 1, {"02 WAIT"});
+  EXPECT_EQ(shown(LB_GETCURSEL), 70'000) << "changed in place";
+  EXPECT_EQ(owned.longestAsked, 0) << "the longest line is not looked for each time";
+  splice(69'999, 2, {});
+  EXPECT_EQ(shown(LB_GETCURSEL), LB_ERR);
+  EXPECT_EQ(shown(LB_GETTOPINDEX), top);
+}
+
 }  // namespace
 }  // namespace mavCycEd::win32::test
+
+namespace mavCycEd::test {
+namespace {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Win32, ListBoxContract, win32::test::Win32Edition);
+
+}  // namespace
+}  // namespace mavCycEd::test

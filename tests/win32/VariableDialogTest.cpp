@@ -34,7 +34,7 @@ TEST(Win32VariableDialogTest, EnterInTheSettingsIsOk) {
       PostMessageW(settings, WM_KEYDOWN, VK_RETURN, 1);
     } else if (!editorUnderTest->messages.empty() || ticks > enough) {
       KillTimer(nullptr, timer);
-      SendMessageW(dialog->frmparams().window().handle(), WM_CLOSE, 0, 0);
+      SendMessageW(dialog->dialog().window().handle(), WM_CLOSE, 0, 0);
     }
   });
   SendMessageW(editor.windows().cmdIns.handle(), BM_CLICK, 0, 0);
