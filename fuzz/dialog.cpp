@@ -9,7 +9,7 @@
 #include "FuzzEditor.h"
 #include "Require.h"
 #include "catalogue/CatalogueText.h"
-#include "editing/VariableDefinition.h"
+#include "mavCycEd/VariableDefinition.h"
 #include "text/IllegalCharacters.h"
 #include "text/Strings.h"
 #include "text/XmlText.h"
@@ -110,7 +110,7 @@ class DialogRun {
   std::string definitionBy(std::string_view lines) {
     editor_.screen().variableDialogs.setUser([&](Dialog& dialog) {
       if (!loaded_.empty()) nameLoaded_ = dialog.txtParamName.text();
-      unitLoaded_ = parseNumber(loaded_).unit;
+      unitLoaded_ = VariableDefinition(loaded_).asNumber().unit;
       User(dialog, lines).work();
       name_ = dialog.txtParamName.text();
       unit_ = dialog.cboUnit.text();

@@ -29,11 +29,6 @@ void requireScreenShowsCycle(FuzzEditor& editor) {
   require(editor.control().gridReady(), "the grid is ready");
 }
 
-HeldCycle heldBy(FuzzEditor& editor) {
-  memory::MemoryScreen& screen = editor.screen();
-  return {editor.control().atoms(), screen.lstVariables, screen.txtCycleDescription.text()};
-}
-
 std::vector<std::string> writtenVariables(FuzzEditor& editor) {
   std::vector<std::string> variables = editor.screen().lstVariables.items();
   std::erase_if(variables, [](const std::string& variable) { return text::trimSpaces(variable).empty(); });
@@ -44,12 +39,12 @@ std::vector<std::string> writtenVariables(FuzzEditor& editor) {
 void requireSameCycle(FuzzEditor& editor, FuzzEditor& fresh, const std::string& cycle) {
   require(!fresh.hasFailed("FillCycle"), "a cycle that was handed back lacks nothing");
   require(!fresh.control().CycleChanged(), "a cycle that was handed back loads unchanged");
-  const cAtoms& before = editor.control().atoms();
-  const cAtoms& after = fresh.control().atoms();
-  require(before.Count() == after.Count(), "no atom line is lost or added");
-  for (int i = 1; i <= before.Count(); ++i) {
-    requireSame(after.Item(i).AtomName(), before.Item(i).AtomName(), "the atom lines keep their names");
-    requireSame(textOf(after.Item(i).AtomParameters()), reloadedParameters(before.Item(i)), "and their values");
+  const auto& before = editor.control().cycle().lines;
+  const auto& after = fresh.control().cycle().lines;
+  require(before.size() == after.size(), "no atom line is lost or added");
+  for (std::size_t i = 0; i < before.size(); ++i) {
+    requireSame(after[i].name, before[i].name, "the atom lines keep their names");
+    requireSame(after[i].parameters.text(), reloadedParameters(before[i].parameters), "and their values");
   }
   require(fresh.screen().lstVariables.items() == writtenVariables(editor), "the variables are the same");
   requireSame(fresh.screen().txtCycleDescription.text(), editor.screen().txtCycleDescription.text(),
@@ -58,8 +53,8 @@ void requireSameCycle(FuzzEditor& editor, FuzzEditor& fresh, const std::string& 
 }
 
 void requireHandsBack(FuzzEditor& editor, std::string_view catalogue, std::string_view configuration) {
-  const bool plain = requirePlainAsFromADocument(heldBy(editor), editor.platform.xml);
-  const bool lasting = plain && isLastingCycle(heldBy(editor));
+  const bool plain = requirePlainAsFromADocument(editor.control().cycle(), editor.platform.xml);
+  const bool lasting = plain && isLastingCycle(editor.control().cycle());
   const std::string cycle = editor.control().RetrieveCycle();
   if (cycle.empty()) return;
   const auto document = editor.platform.xml.createDocument();
@@ -98,11 +93,16 @@ void run(std::string_view rest) {
   FuzzEditor editor(catalogue, configuration, rest);
   requireScreenShowsCycle(editor);
   requireReadsAsADocument(rest, editor.platform.xml);
+  const Cycle loaded = editor.control().cycle();
   editor.control().CycleChanged();
   editor.control().MacroString();
   requireHandsBack(editor, catalogue, configuration);
   work(editor);
   requireHandsBack(editor, catalogue, configuration);
+
+  while (editor.control().Undo()) {
+  }
+  require(editor.control().cycle() == loaded, "undoing everything leads back to what was loaded");
 
   editor.control().Ignore_Hidden(true);
   editor.control().SetXMLStrings(catalogue, {});

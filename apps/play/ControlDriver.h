@@ -102,6 +102,9 @@ class ControlDriver {
   virtual void doubleClickItem(std::string_view list, int index) = 0;
   /// Presses a button, or selects an option.
   virtual void clickButton(std::string_view button) = 0;
+  /// Takes the last step back, or brings it again, by the keys for it.
+  virtual void undo() = 0;
+  virtual void redo() = 0;
   /// The timer's interval has passed; nothing happens when it is off.
   virtual void tick() = 0;
 

@@ -35,6 +35,8 @@ class MemoryDriver : public ControlDriver {
   void selectItem(std::string_view list, int index) override;
   void doubleClickItem(std::string_view list, int index) override;
   void clickButton(std::string_view button) override;
+  void undo() override { headless_.control().Undo(); }
+  void redo() override { headless_.control().Redo(); }
   void tick() override;
 
   void setWhileDialogOpen(std::function<void()> whileDialogOpen) override;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -61,6 +62,11 @@ Json stateJson(const EditorControl& editor) {
       {"changed", editor.changedFlag()}, {"gridReady", editor.gridReady()}, {"currentRow", editor.currentGridRow()}};
 }
 
+Json historyJson(const EditorControl& editor) {
+  const auto nameOrNull = [](const std::optional<std::string>& name) { return name ? Json(*name) : Json(); };
+  return {{"undo", nameOrNull(editor.undoText())}, {"redo", nameOrNull(editor.redoText())}};
+}
+
 // The name box of the dialog can be locked; the description cannot.
 Json textBoxJson(const TextBoxView& box, std::string_view name) {
   if (name == "txtCycleDescription") return {{"text", box.text}};
@@ -78,6 +84,7 @@ Json frameJson(const FrameView& frame, std::string_view name) {
 Json stateOf(const ControlDriver& driver, std::string_view name) {
   if (name == "atoms") return atomsJson(driver.editor().atoms());
   if (name == "state") return stateJson(driver.editor());
+  if (name == "history") return historyJson(driver.editor());
   if (name == "rows") return rowsJson(driver.editor().parameterRows(), driver.grid("GrdAtom").rows.size());
   if (name == "toolTip") return driver.toolTip();
   if (name == "lstObject") {

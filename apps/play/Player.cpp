@@ -69,6 +69,8 @@ const Player::Command Player::commands[] = {
     {"dblclick", &Player::doubleClick, Reach::Dialog},
     {"click", &Player::click, Reach::Dialog},
     {"close", &Player::close, Reach::Dialog},
+    {"undo", &Player::undo, Reach::Control},
+    {"redo", &Player::redo, Reach::Control},
     {"tick", &Player::tick, Reach::Control},
     {"show", &Player::show, Reach::Dialog},
 };
@@ -249,6 +251,18 @@ void Player::click(Words& words) {
   const std::string& button = words.name();
   words.end();
   driver_.clickButton(button);
+}
+
+void Player::undo(Words& words) {
+  words.end();
+  if (!driver_.editor().undoText()) throw StepRefused("There is no step to be undone.");
+  driver_.undo();
+}
+
+void Player::redo(Words& words) {
+  words.end();
+  if (!driver_.editor().redoText()) throw StepRefused("There is no step to be redone.");
+  driver_.redo();
 }
 
 void Player::tick(Words& words) {

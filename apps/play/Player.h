@@ -54,6 +54,8 @@ class Player {
   void select(Words& words);
   void doubleClick(Words& words);
   void click(Words& words);
+  void undo(Words& words);
+  void redo(Words& words);
   void tick(Words& words);
   void show(Words& words);
 

@@ -33,6 +33,7 @@ int withQtDriver(int argc, char** argv, const std::string& now, const std::funct
   services.clock = std::make_shared<memory::StandingClock>(now);
   const auto timer = std::make_shared<memory::MemoryTimer>();
   services.gridTimer = timer;
+  services.typingTimer = std::make_shared<memory::MemoryTimer>();
   QtDriver driver(
       services, [](const CycleEditorErrorEvent& event) { writeLine(std::cout, asLine(event)); },
       [timer] { timer->fire(); });

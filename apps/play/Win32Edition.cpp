@@ -21,6 +21,7 @@ int withWin32Driver(const std::string& now, const std::function<int(ControlDrive
       });
   services.clock = std::make_shared<memory::StandingClock>(now);
   services.gridTimer = timer;
+  services.typingTimer = std::make_shared<memory::MemoryTimer>();
   Win32Driver driver(
       services, [](const CycleEditorErrorEvent& event) { writeLine(std::cout, asLine(event)); },
       [timer] { timer->fire(); });

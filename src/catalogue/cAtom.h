@@ -29,12 +29,6 @@ class cAtom {
   /// Stores an object reference.
   void setAtomParametersObject(ObjectReference object) { atomParameters_ = std::move(object); }
 
-  /// Moves name and parameters here from another atom line; what that one has instead is of no meaning.
-  void takeNameAndParameters(cAtom& other) {
-    atomName_.swap(other.atomName_);
-    atomParameters_.swap(other.atomParameters_);
-  }
-
  private:
   std::string atomName_;
   std::string duration_;

@@ -38,9 +38,13 @@ std::size_t cAtoms::indexOf(std::string_view key) const {
   return static_cast<std::size_t>(found - elements_.begin());
 }
 
-cAtom& cAtoms::Item(int position) const { return *elements_[indexOf(position)].atom; }
+cAtom& cAtoms::Item(int position) { return *elements_[indexOf(position)].atom; }
 
-cAtom& cAtoms::Item(std::string_view key) const { return *elements_[indexOf(key)].atom; }
+cAtom& cAtoms::Item(std::string_view key) { return *elements_[indexOf(key)].atom; }
+
+const cAtom& cAtoms::Item(int position) const { return *elements_[indexOf(position)].atom; }
+
+const cAtom& cAtoms::Item(std::string_view key) const { return *elements_[indexOf(key)].atom; }
 
 void cAtoms::Remove(int position) {
   elements_.erase(elements_.begin() + static_cast<std::ptrdiff_t>(indexOf(position)));

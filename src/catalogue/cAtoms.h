@@ -21,14 +21,15 @@ class cAtoms {
   using Elements = std::vector<Element>;
 
  public:
-  /// Walks the atoms in order.
+  /// Walks the atoms in order; those of a collection that is not to be changed as what is not to be changed.
+  template <typename Atom>
   class Enumerator {
    public:
     using difference_type = std::ptrdiff_t;
-    using value_type = cAtom;
+    using value_type = Atom;
     explicit Enumerator(Elements::const_iterator at) : at_(at) {}
-    cAtom& operator*() const { return *at_->atom; }
-    cAtom* operator->() const { return at_->atom.get(); }
+    Atom& operator*() const { return *at_->atom; }
+    Atom* operator->() const { return at_->atom.get(); }
     Enumerator& operator++() {
       ++at_;
       return *this;
@@ -44,10 +45,11 @@ class cAtoms {
     Elements::const_iterator at_;
   };
   /// What NewEnum() gives: a range over the atoms.
+  template <typename Atom>
   struct Range {
-    Enumerator first, last;
-    Enumerator begin() const { return first; }
-    Enumerator end() const { return last; }
+    Enumerator<Atom> first, last;
+    Enumerator<Atom> begin() const { return first; }
+    Enumerator<Atom> end() const { return last; }
   };
 
   /// Adds an atom line at the end and gives it back; an empty key adds it without a key. A key in use fails and leaves
@@ -55,8 +57,10 @@ class cAtoms {
   cAtom& Add(std::string AtomName, std::string Duration, std::string GroupIndex, Variant AtomParameters,
              std::string_view sKey = {});
 
-  cAtom& Item(int position) const;
-  cAtom& Item(std::string_view key) const;
+  cAtom& Item(int position);
+  cAtom& Item(std::string_view key);
+  const cAtom& Item(int position) const;
+  const cAtom& Item(std::string_view key) const;
   int Count() const { return static_cast<int>(elements_.size()); }
   /// Removes an atom line; those behind it move up by one.
   void Remove(int position);
@@ -64,9 +68,12 @@ class cAtoms {
   /// Removes all atom lines.
   void Clear() { elements_.clear(); }
 
-  Range NewEnum() const { return {begin(), end()}; }
-  Enumerator begin() const { return Enumerator(elements_.begin()); }
-  Enumerator end() const { return Enumerator(elements_.end()); }
+  Range<cAtom> NewEnum() { return {begin(), end()}; }
+  Range<const cAtom> NewEnum() const { return {begin(), end()}; }
+  Enumerator<cAtom> begin() { return Enumerator<cAtom>(elements_.begin()); }
+  Enumerator<cAtom> end() { return Enumerator<cAtom>(elements_.end()); }
+  Enumerator<const cAtom> begin() const { return Enumerator<const cAtom>(elements_.begin()); }
+  Enumerator<const cAtom> end() const { return Enumerator<const cAtom>(elements_.end()); }
 
  private:
   std::size_t indexOf(int position) const;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editing/VariableDialogScreen.h"
+#include "panels/VariableDialogScreen.h"
 #include "platform/Button.h"
 #include "platform/ComboBox.h"
 #include "platform/Frame.h"
@@ -33,6 +33,7 @@ struct ControlScreen {
   platform::Button& cmdDefault;
   platform::PopupMenu& mnuSubParam;  ///< the items of the pop-up menu mnuParam
   platform::Timer& tmrUpdateGrid;
+  platform::Timer& tmrTypingPause;         ///< how long ago the operator typed into the description
   VariableDialogFactory& variableDialogs;  ///< makes the window of the variable dialog
 };
 

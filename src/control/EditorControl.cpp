@@ -11,15 +11,18 @@
 #include "control/ScreenStart.h"
 #include "control/modErr.h"
 #include "control/modMsgBox.h"
-#include "cycle/CycleLoader.h"
 #include "cycle/CycleWriter.h"
-#include "cycle/MacroText.h"
-#include "editing/AtomSequenceEditing.h"
-#include "editing/CycleVariables.h"
-#include "paramgrid/ExtraValues.h"
-#include "paramgrid/OfferedValues.h"
-#include "paramgrid/ParamGrid.h"
-#include "paramgrid/ValueValidation.h"
+#include "panels/AtomSequenceEditing.h"
+#include "panels/CycleLoader.h"
+#include "panels/CycleVariables.h"
+#include "panels/CycleView.h"
+#include "panels/DescriptionEditing.h"
+#include "panels/EditHistory.h"
+#include "panels/ExtraValues.h"
+#include "panels/MacroText.h"
+#include "panels/OfferedValues.h"
+#include "panels/ParamGrid.h"
+#include "panels/ValueValidation.h"
 #include "text/Utf8.h"
 
 namespace mavCycEd {
@@ -109,7 +112,7 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
   bool CycleChanged() {
     const bool changed = handBack_.CycleChanged();
     // A procedure that is at work has not done with the cycle yet: the answer is good for this moment only.
-    if (running_ > 1) cycle_.differs.reset();
+    if (running_ > 1) cycle_.compared.reset();
     return changed;
   }
   std::string RetrieveCycle() { return handBack_.RetrieveCycle(); }
@@ -121,7 +124,12 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
   std::string MacroString() { return macroText_.MacroString(); }
   bool ParamValueControl(std::string& message) { return validation_.ParamValueControl(message); }
 
+  bool Undo() { return running_ == 1 && history_.Undo(); }
+  bool Redo() { return running_ == 1 && history_.Redo(); }
+  void setHistoryChanged(std::function<void()> historyChanged) { historyChanged_ = std::move(historyChanged); }
+
   const CycleState& cycle() const { return cycle_; }
+  CycleDocument& document() { return cycle_.document; }
   const GridState& grid() const { return grid_; }
 
  private:
@@ -137,7 +145,7 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
     explicit Running(Implementation& control) : control_(control) { ++control_.running_; }
     ~Running() {
       if (control_.running_ == 1) control_.doWhatWasPutOff();
-      --control_.running_;
+      if (--control_.running_ == 0) control_.tellHistory();
     }
     Running(const Running&) = delete;
     Running& operator=(const Running&) = delete;
@@ -157,9 +165,26 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
     putOff_.reset();
   }
 
-  // The answer to an event. Who tells of the event may hold a copy of the answer for longer than the control lives.
+  // Behind the procedure: who is told may ask for the next one.
+  void tellHistory() noexcept {
+    if (!view_.takeHistoryChanged() || ended_) return;
+    guarded(errors_, "historyChanged", [this] {
+      if (const auto historyChanged = historyChanged_) historyChanged();
+    });
+  }
+
+  // The answer to an event by which the operator gives a command, or goes on elsewhere: it ends a stretch of typing.
   template <typename... Arguments, typename Procedure>
   std::function<void(Arguments...)> answer(Procedure procedure) {
+    return answerWhileTyping<Arguments...>([this, procedure](Arguments... arguments) {
+      cycle_.document.sealStretch();
+      procedure(arguments...);
+    });
+  }
+
+  // The answer to an event. Who tells of the event may hold a copy of the answer for longer than the control lives.
+  template <typename... Arguments, typename Procedure>
+  std::function<void(Arguments...)> answerWhileTyping(Procedure procedure) {
     return [control = weak_from_this(), procedure](Arguments... arguments) {
       const auto self = control.lock();
       if (self && !self->ended_) self->run([&] { procedure(arguments...); });
@@ -168,7 +193,9 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
 
   // The screen's events go to the procedures that answer them.
   void connect() {
-    screen_.txtCycleDescription.setEvents({.Change = answer([this] { txtCycleDescription_Change(); })});
+    screen_.txtCycleDescription.setEvents(
+        {.Change = answerWhileTyping([this] { description_.txtCycleDescription_Change(); }),
+         .LostFocus = answer([this] { description_.txtCycleDescription_LostFocus(); })});
     screen_.lstAtomSequence.setEvents({.Click = answer([this] { loader_.lstAtomSequence_Click(); }),
                                        .DblClick = answer([this] { loader_.lstAtomSequence_DblClick(); })});
     screen_.cmdInset.setEvents({.Click = answer([this] { sequenceEditing_.cmdInset_Click(); })});
@@ -181,7 +208,8 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
     screen_.cmdDefault.setEvents({.Click = answer([this] { sequenceEditing_.cmdDefault_Click(); })});
     screen_.mnuSubParam.setEvents(
         {.Click = answer<int>([this](int index) { offeredValues_.mnuSubParam_Click(index); })});
-    screen_.tmrUpdateGrid.setEvents({.Tick = answer([this] { tmrUpdateGrid_Timer(); })});
+    screen_.tmrUpdateGrid.setEvents({.Tick = answerWhileTyping([this] { tmrUpdateGrid_Timer(); })});
+    screen_.tmrTypingPause.setEvents({.Tick = answer([this] { description_.tmrTypingPause_Timer(); })});
     connectGrid();
   }
 
@@ -191,7 +219,7 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
     events.ContextPopup = answer<int, int>([this](int x, int y) { offeredValues_.GrdAtom_OnContextPopup(x, y); });
     events.MouseDown = answer<platform::MouseButton, int, int>(
         [this](platform::MouseButton button, int x, int y) { offeredValues_.GrdAtom_OnMouseDown(button, x, y); });
-    events.MouseMove = answer<int, int>([this](int x, int y) { offeredValues_.GrdAtom_OnMouseMove(x, y); });
+    events.MouseMove = answerWhileTyping<int, int>([this](int x, int y) { offeredValues_.GrdAtom_OnMouseMove(x, y); });
     events.SetEditText = answer<int, int, const std::string&>([this](int column, int row, const std::string& value) {
       validation_.GrdAtom_OnSetEditText(column, row, value);
     });
@@ -210,12 +238,10 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
 
   // Nothing of the cycle before stays: no line, variable, description or grid row.
   void startNewCycle() {
-    cycle_.atoms.Clear();
-    cycle_.display.clear();
-    cycle_.replaced();
     grid_.ready = false;
-    paramGrid_.UpdateControls(screen_.lstVariables, screen_.lstAtomSequence, screen_.txtCycleDescription);
+    paramGrid_.UpdateControls(cycle_.document);
     grid_.ready = true;
+    cycle_.replaced();
   }
 
   void fillAtomPicker() {
@@ -244,10 +270,6 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
     return true;
   }
 
-  void txtCycleDescription_Change() {
-    guarded(errors_, "txtCycleDescription_Change", [this] { cycle_.edited(); });
-  }
-
   void tmrUpdateGrid_Timer() {
     guarded(errors_, "tmrUpdateGrid_Timer", [this] {
       screen_.tmrUpdateGrid.setEnabled(false);
@@ -265,6 +287,7 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
   int running_ = 0;
   bool ended_ = false;
   std::optional<Texts> putOff_;
+  std::function<void()> historyChanged_;
   modErr modErr_;
   ErrorReporter errors_;
   modCycleHelper catalogue_;
@@ -277,23 +300,26 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
   ParamGrid paramGrid_{screen_.GrdAtom, grid_, catalogue_, *provider_, errors_};
   ValueValidation validation_{screen_.GrdAtom, grid_, catalogue_, messages_, errors_};
   OfferedValues offeredValues_{screen_.GrdAtom, screen_.mnuSubParam, grid_, catalogue_, errors_};
-  ExtraValues extraValues_{screen_.GrdAtom, grid_, screen_.lstVariables, errors_};
-  CycleWriter writer_{cycle_, cycleScreen_, services_.xmlDocuments, services_.clock, errors_};
+  ExtraValues extraValues_{screen_.GrdAtom, grid_, cycle_.cycle(), errors_};
+  CycleView view_{cycle_, cycleScreen_, extraValues_, errors_};
+  CycleWriter writer_{cycle_.cycle(), cycle_.reference, services_.xmlDocuments, services_.clock, errors_};
   HandBack handBack_{cycle_, writer_, services_.xmlDocuments, services_.codePage, errors_};
   CycleLoader loader_{cycle_, cycleScreen_, screen_.cboAtom, screen_.GrdAtom, errors_};
-  AtomSequenceEditing sequenceEditing_{
-      cycle_,
-      {screen_.lstAtomSequence, screen_.cboAtom, screen_.GrdAtom, screen_.tmrUpdateGrid},
-      {grid_, paramGrid_, extraValues_, validation_},
-      errors_};
-  MacroText macroText_{
-      cycle_, cycleScreen_, screen_.cboAtom, screen_.GrdAtom, [this] { sequenceEditing_.cmdInset_Click(); }, errors_};
-  CycleVariables variables_{
-      cycle_,
-      {screen_.lstVariables, screen_.cboAtom, screen_.variableDialogs, catalogue_, *provider_, messages_},
-      extraValues_,
-      [this] { sequenceEditing_.cboAtom_Click(); },
-      errors_};
+  DescriptionEditing description_{cycle_, cycleScreen_, view_, screen_.tmrTypingPause, errors_};
+  AtomSequenceEditing sequenceEditing_{cycle_,
+                                       {cycleScreen_, screen_.cboAtom, screen_.GrdAtom, screen_.tmrUpdateGrid},
+                                       view_,
+                                       {grid_, paramGrid_, extraValues_, validation_},
+                                       errors_};
+  MacroText macroText_{cycle_, view_, screen_.cboAtom, screen_.GrdAtom, [this] { sequenceEditing_.cmdInset_Click(); },
+                       errors_};
+  CycleVariables variables_{cycle_,
+                            {cycleScreen_, screen_.cboAtom, screen_.variableDialogs, catalogue_, *provider_, messages_},
+                            view_,
+                            extraValues_,
+                            [this] { sequenceEditing_.cboAtom_Click(); },
+                            errors_};
+  EditHistory history_{cycle_, cycleScreen_, view_, errors_};
 };
 
 EditorControl::EditorControl(const ControlScreen& screen, const PlatformServices& services,
@@ -331,7 +357,30 @@ bool EditorControl::ParamValueControl(std::string& message) {
   return implementation_->run([&, self = implementation_.get()] { return self->ParamValueControl(message); });
 }
 
-const cAtoms& EditorControl::atoms() const { return implementation_->cycle().atoms; }
+bool EditorControl::Undo() {
+  return implementation_->run([self = implementation_.get()] { return self->Undo(); });
+}
+bool EditorControl::Redo() {
+  return implementation_->run([self = implementation_.get()] { return self->Redo(); });
+}
+std::optional<std::string> EditorControl::undoText() const { return implementation_->cycle().document.undoName(); }
+std::optional<std::string> EditorControl::redoText() const { return implementation_->cycle().document.redoName(); }
+void EditorControl::setHistoryChanged(std::function<void()> historyChanged) {
+  implementation_->setHistoryChanged(std::move(historyChanged));
+}
+
+const Cycle& EditorControl::cycle() const { return implementation_->cycle().cycle(); }
+CycleDocument& EditorControl::document() { return implementation_->document(); }
+cAtoms EditorControl::atoms() const {
+  cAtoms atoms;
+  const Cycle& cycle = this->cycle();
+  for (std::size_t i = 0; i < cycle.lines.size(); ++i) {
+    const AtomLine& line = cycle.lines[i];
+    const LinePlace place = i < cycle.places.size() ? cycle.places[i] : LinePlace();
+    atoms.Add(line.name, place.duration, place.groupIndex, line.parameters.text());
+  }
+  return atoms;
+}
 const ParamRowTable& EditorControl::parameterRows() const { return implementation_->grid().rows; }
 bool EditorControl::changedFlag() const { return implementation_->cycle().changed; }
 bool EditorControl::gridReady() const { return implementation_->grid().ready; }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,7 +11,8 @@
 #include "control/ControlScreen.h"
 #include "control/CycleEditorErrorEvent.h"
 #include "control/PlatformServices.h"
-#include "paramgrid/ParamRowTable.h"
+#include "mavCycEd/CycleDocument.h"
+#include "rules/ParamRowTable.h"
 
 namespace mavCycEd {
 
@@ -57,8 +60,22 @@ class EditorControl {
   /// Whether every row of the parameter grid holds a valid value; if not, `message` names the first one that does not.
   bool ParamValueControl(std::string& message);
 
-  /// The atom lines, in sequence order.
-  const cAtoms& atoms() const;
+  /// Takes the last step of the operator back, or brings it again: lines, variables, description, and the selection
+  /// that was there. False where there is no step, and while a procedure is running. No message is shown by this.
+  bool Undo();
+  bool Redo();
+  /// What the next such step is called ("Insert"); nothing where there is none.
+  std::optional<std::string> undoText() const;
+  std::optional<std::string> redoText() const;
+  /// What is called when one of these texts has changed: behind the procedure that changed it.
+  void setHistoryChanged(std::function<void()> historyChanged);
+
+  /// The cycle as it stands.
+  const Cycle& cycle() const;
+  /// The document under the editor. The screen follows what anybody changes in it.
+  CycleDocument& document();
+  /// The atom lines as records, in sequence order: a copy.
+  cAtoms atoms() const;
   /// What is known of the grid's parameter rows.
   const ParamRowTable& parameterRows() const;
   /// The changed flag as it stands, without recomputing it.

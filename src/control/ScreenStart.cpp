@@ -22,6 +22,7 @@ void setUpScreen(const ControlScreen& screen) {
   screen.GrdAtom.setColumnTitle(0, "Parameter");
   screen.GrdAtom.setColumnTitle(1, "Value");
   screen.tmrUpdateGrid.setEnabled(false);
+  screen.tmrTypingPause.setEnabled(false);
 }
 
 void disconnectScreen(const ControlScreen& screen) {
@@ -39,6 +40,7 @@ void disconnectScreen(const ControlScreen& screen) {
   screen.cmdDefault.setEvents({});
   screen.mnuSubParam.setEvents({});
   screen.tmrUpdateGrid.setEvents({});
+  screen.tmrTypingPause.setEvents({});
 }
 
 }  // namespace mavCycEd

@@ -37,14 +37,14 @@ std::string CycleWriter::RetrieveNewCycle() {
 }
 
 std::string CycleWriter::version02() {
-  if (isSequenceEmpty()) return {};
+  if (cycle_.lines.empty()) return {};
   const std::string marked = description();
   return written(ConvertDescription(marked), {.version = "02", .created = {}, .modified = {}},
                  [&](XmlDocument& document) { AppendDescriptionNode(document, marked); });
 }
 
 std::string CycleWriter::version03(ModifiedStamp modified) {
-  if (isSequenceEmpty()) return {};
+  if (cycle_.lines.empty()) return {};
   const CycleFacts facts = newFormatFacts(modified);
   const std::string marked = description();
   return written(marked, facts, [&](XmlDocument& document) {
@@ -59,7 +59,7 @@ std::string CycleWriter::version03(ModifiedStamp modified) {
 template <typename Complete>
 std::string CycleWriter::written(std::string_view description, CycleFacts facts, const Complete& complete) {
   writtenFacts_ = {};
-  const CycleContent content{cycle_.atoms, screen_.lstVariables, description, facts};
+  const CycleContent content{cycle_, description, facts};
   if (std::optional<std::string> xml = plainCycleXml(content)) {
     writtenFacts_ = std::move(facts);
     return *std::move(xml);
@@ -71,17 +71,11 @@ std::string CycleWriter::written(std::string_view description, CycleFacts facts,
   return document->xml();
 }
 
-bool CycleWriter::isSequenceEmpty() const {
-  return screen_.lstAtomSequence.itemCount() == 0 && cycle_.atoms.Count() == 0;
-}
-
-std::string CycleWriter::description() const {
-  return std::string(descriptionMarker) + screen_.txtCycleDescription.text();
-}
+std::string CycleWriter::description() const { return std::string(descriptionMarker) + cycle_.description; }
 
 CycleFacts CycleWriter::newFormatFacts(ModifiedStamp modified) const {
   const std::string now = clock_.localTimestamp();
-  const CycleFacts& loaded = cycle_.reference.facts();
+  const CycleFacts& loaded = reference_.timestamps();
   const bool keeps = modified == ModifiedStamp::Kept;
   return {.version = "03",
           .created = loaded.created.value_or(now),

@@ -3,21 +3,22 @@
 #include <string>
 #include <string_view>
 
-#include "cycle/CycleState.h"
+#include "cycle/ReferenceCycle.h"
+#include "mavCycEd/Cycle.h"
 #include "platform/Clock.h"
 #include "platform/ErrorSink.h"
 #include "platform/XmlDocument.h"
 
 namespace mavCycEd {
 
-/// Writes the editor's state as a cycle document: root CYCLE with DESCRIPTION, VARIABLES, CYCLEATOMS (a summary that
+/// Writes a cycle as a cycle document: root CYCLE with DESCRIPTION, VARIABLES, CYCLEATOMS (a summary that
 /// is never read back), ATOMSEQUENCE and VERSION. Names and values go into the text as they stand; a name or value
 /// that breaks the XML gives an empty document. Every writer gives an empty text when the sequence is empty.
 class CycleWriter {
  public:
-  CycleWriter(const CycleState& cycle, const CycleScreen& screen, platform::XmlDocumentFactory& xmlDocuments,
+  CycleWriter(const Cycle& cycle, const ReferenceCycle& reference, platform::XmlDocumentFactory& xmlDocuments,
               const platform::Clock& clock, ErrorSink& errors)
-      : cycle_(cycle), screen_(screen), xmlDocuments_(xmlDocuments), clock_(clock), errors_(errors) {}
+      : cycle_(cycle), reference_(reference), xmlDocuments_(xmlDocuments), clock_(clock), errors_(errors) {}
 
   /// Version 02: no timestamps, the description escaped once more than XML asks for.
   std::string RetrieveCycleVersion02();
@@ -37,15 +38,14 @@ class CycleWriter {
   template <typename Complete>
   std::string written(std::string_view description, CycleFacts facts, const Complete& complete);
   CycleFacts newFormatFacts(ModifiedStamp modified) const;
-  bool isSequenceEmpty() const;
   std::string description() const;
 
   void AppendDescriptionNode(platform::XmlDocument& document, std::string_view description);
   void AppendDescriptionNode03(platform::XmlDocument& document, std::string_view description);
   void AddAttribute(platform::XmlDocument& document, std::string_view name, std::string_view value);
 
-  const CycleState& cycle_;
-  CycleScreen screen_;
+  const Cycle& cycle_;
+  const ReferenceCycle& reference_;
   platform::XmlDocumentFactory& xmlDocuments_;
   const platform::Clock& clock_;
   ErrorSink& errors_;

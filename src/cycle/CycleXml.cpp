@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <utility>
-#include <variant>
 
 #include "cycle/CycleText.h"
 #include "text/LineEnds.h"
@@ -21,8 +20,6 @@ struct AtomLineTexts {
   std::string elements;   ///< the ATOM elements
 };
 
-bool isBlank(const std::string& variable) { return text::trimSpaces(variable).empty(); }
-
 void appendRawParameter(std::string& text, std::string_view name, std::string_view value) {
   text.append("<PARAMETER>").append(crLf);
   text.append("<PARAMNAME>").append(StripParamName(name)).append("</PARAMNAME>").append(crLf);
@@ -30,16 +27,14 @@ void appendRawParameter(std::string& text, std::string_view name, std::string_vi
   text.append("</PARAMETER>");
 }
 
-void appendRawAtomLine(AtomLineTexts& texts, const cAtom& atom) {
-  const std::string& name = atom.AtomName();
-  const std::string parameterText = textOf(atom.AtomParameters());
-
+void appendRawAtomLine(AtomLineTexts& texts, const AtomLine& line) {
+  const std::string& name = line.name;
   texts.elements.append("<ATOM>").append(crLf);
   texts.elements.append("<ATOMNAME>").append(name).append("</ATOMNAME>").append(crLf);
   texts.elements.append("<PARAMETERS>").append(crLf);
   texts.summaries.append("<ATOMLINE>").append(name).append("(");
-  for (const std::string_view line : text::split(parameterText, '\r')) {
-    const auto fields = text::split(line, ';');
+  for (const ParameterSegment& segment : line.parameters.segments()) {
+    const auto fields = segment.fields();
     for (std::size_t k = 1; k < fields.size(); ++k) appendRawParameter(texts.elements, fields[0], fields[k]);
     if (fields.size() > 1) texts.summaries.append(fields.back()).append(",");
   }
@@ -48,11 +43,10 @@ void appendRawAtomLine(AtomLineTexts& texts, const cAtom& atom) {
   texts.elements.append("</ATOM>").append(crLf);
 }
 
-void appendRawVariables(std::string& text, const platform::ListBox& lstVariables) {
+void appendRawVariables(std::string& text, const std::vector<VariableDefinition>& variables) {
   text.append("<VARIABLES>").append(crLf);
-  for (int i = 0; i < lstVariables.itemCount(); ++i) {
-    const std::string variable = lstVariables.itemText(i);
-    if (!isBlank(variable)) text.append("<VALUE>").append(variable).append("</VALUE>").append(crLf);
+  for (const VariableDefinition& variable : variables) {
+    if (!variable.isBlank()) text.append("<VALUE>").append(variable.text()).append("</VALUE>").append(crLf);
   }
   text.append("</VARIABLES>").append(crLf);
 }
@@ -65,8 +59,8 @@ class PlainCycle {
     xml_.append("  <DESCRIPTION>");
     text::appendEscapedXml(xml_, text::toXmlText(content.description));
     xml_.append("</DESCRIPTION>\n");
-    plain = plain && appendVariables(content.lstVariables);
-    for (const cAtom& atom : content.atoms) plain = plain && appendAtomLine(atom);
+    plain = plain && appendVariables(content.cycle.variables);
+    for (const AtomLine& line : content.cycle.lines) plain = plain && appendAtomLine(line);
     plain = plain && appendEnd(content);
     if (!plain) return std::nullopt;
     return std::move(xml_);
@@ -88,15 +82,14 @@ class PlainCycle {
     return true;
   }
 
-  bool appendVariables(const platform::ListBox& lstVariables) {
+  bool appendVariables(const std::vector<VariableDefinition>& variables) {
     const std::size_t start = xml_.size();
     xml_.append("  <VARIABLES>\n");
     bool any = false;
-    for (int i = 0; i < lstVariables.itemCount(); ++i) {
-      const std::string variable = lstVariables.itemText(i);
-      if (isBlank(variable)) continue;
+    for (const VariableDefinition& variable : variables) {
+      if (variable.isBlank()) continue;
       any = true;
-      if (!appendElement(xml_, "    ", "VALUE", variable)) return false;
+      if (!appendElement(xml_, "    ", "VALUE", variable.text())) return false;
     }
     if (any) {
       xml_.append("  </VARIABLES>\n");
@@ -107,32 +100,28 @@ class PlainCycle {
     return true;
   }
 
-  bool appendAtomLine(const cAtom& atom) {
+  bool appendAtomLine(const AtomLine& line) {
     std::string& elements = texts_.elements;
     std::string& summaries = texts_.summaries;
     elements.append("      <ATOM>\n");
     summaries.append("    <ATOMLINE>");
-    const bool plain = appendElement(elements, "        ", "ATOMNAME", atom.AtomName()) &&
-                       text::appendPlainXml(summaries, atom.AtomName());
+    const bool plain =
+        appendElement(elements, "        ", "ATOMNAME", line.name) && text::appendPlainXml(summaries, line.name);
     summaries.append("(");
-    const bool parametersPlain = plain && appendParameters(atom.AtomParameters());
+    const bool parametersPlain = plain && appendParameters(line.parameters);
     summaries.append(")</ATOMLINE>\n");
     elements.append("      </ATOM>\n");
     return parametersPlain;
   }
 
-  bool appendParameters(const Variant& parameters) {
+  bool appendParameters(const ParameterText& parameters) {
     std::string& elements = texts_.elements;
-    const auto* const text = std::get_if<std::string>(&parameters);
-    if (text == nullptr) return false;
     const std::size_t start = elements.size();
     elements.append("        <PARAMETERS>\n");
     const std::size_t inside = elements.size();
-    for (std::string_view rest = *text; !rest.empty();) {
-      const std::string_view line = rest.substr(0, rest.find('\r'));
-      rest.remove_prefix(std::min(rest.size(), line.size() + 1));
-      if (!appendParameterLine(line)) return false;
-    }
+    bool plain = true;
+    parameters.forEachSegment([&](const ParameterSegment& segment) { plain = plain && appendSegment(segment); });
+    if (!plain) return false;
     if (elements.size() == inside) {
       elements.resize(start);
       elements.append("        <PARAMETERS/>\n");
@@ -142,28 +131,30 @@ class PlainCycle {
     return true;
   }
 
-  bool appendParameterLine(std::string_view line) {
-    std::string& elements = texts_.elements;
-    std::size_t separator = line.find(';');
-    if (separator == std::string_view::npos) return true;
-    stripped_ = StripParamName(line.substr(0, separator));
+  bool appendSegment(const ParameterSegment& segment) {
+    if (!segment.hasValue()) return true;
+    stripped_ = StripParamName(segment.name());
     std::string_view value;
-    while (separator != std::string_view::npos) {
-      line.remove_prefix(separator + 1);
-      separator = line.find(';');
-      value = line.substr(0, separator);
-      elements.append("          <PARAMETER>\n");
-      if (!appendElement(elements, "            ", "PARAMNAME", stripped_)) return false;
-      if (!appendElement(elements, "            ", "PARAMVALUE", value)) return false;
-      elements.append("          </PARAMETER>\n");
-    }
-    const bool plain = text::appendPlainXml(texts_.summaries, value);
+    const bool elementsPlain = segment.forEachValue([&](std::string_view each) {
+      value = each;
+      return appendParameter(each);
+    });
+    const bool plain = elementsPlain && text::appendPlainXml(texts_.summaries, value);
     texts_.summaries.append(",");
     return plain;
   }
 
+  bool appendParameter(std::string_view value) {
+    std::string& elements = texts_.elements;
+    elements.append("          <PARAMETER>\n");
+    if (!appendElement(elements, "            ", "PARAMNAME", stripped_)) return false;
+    if (!appendElement(elements, "            ", "PARAMVALUE", value)) return false;
+    elements.append("          </PARAMETER>\n");
+    return true;
+  }
+
   bool appendEnd(const CycleContent& content) {
-    if (content.atoms.Count() == 0) {
+    if (content.cycle.lines.empty()) {
       xml_.append("  <CYCLEATOMS/>\n  <ATOMSEQUENCE>\n    <ATOMS/>\n  </ATOMSEQUENCE>\n");
     } else {
       xml_.append("  <CYCLEATOMS>\n").append(texts_.summaries).append("  </CYCLEATOMS>\n");
@@ -197,11 +188,11 @@ class PlainCycle {
 
 std::string rawCycleText(const CycleContent& content) {
   AtomLineTexts atomLines;
-  for (const cAtom& atom : content.atoms) appendRawAtomLine(atomLines, atom);
+  for (const AtomLine& line : content.cycle.lines) appendRawAtomLine(atomLines, line);
 
   std::string text;
   text.append("<CYCLE>").append(crLf);
-  appendRawVariables(text, content.lstVariables);
+  appendRawVariables(text, content.cycle.variables);
   text.append("<CYCLEATOMS>").append(crLf).append(atomLines.summaries).append("</CYCLEATOMS>").append(crLf);
   text.append("<ATOMSEQUENCE>").append(crLf).append("<ATOMS>").append(crLf);
   text.append(atomLines.elements).append(crLf);

@@ -4,17 +4,15 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/cAtoms.h"
 #include "cycle/ReferenceCycle.h"
-#include "platform/ListBox.h"
+#include "mavCycEd/Cycle.h"
 
 namespace mavCycEd {
 
 /// What a cycle document is written from. The facts are written as they are: the version always, a timestamp that is
 /// there as an attribute of CYCLE.
 struct CycleContent {
-  const cAtoms& atoms;
-  const platform::ListBox& lstVariables;
+  const Cycle& cycle;
   std::string_view description;  ///< the text of DESCRIPTION
   const CycleFacts& facts;
 };

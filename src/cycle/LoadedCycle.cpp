@@ -1,8 +1,14 @@
 #include "cycle/LoadedCycle.h"
 
+#include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
+#include "cycle/CycleText.h"
 #include "platform/XmlContent.h"
+#include "text/LineEnds.h"
+#include "text/Strings.h"
 
 namespace mavCycEd {
 namespace {
@@ -25,13 +31,19 @@ enum class Place {
   ParamValue,
 };
 
+/// The description as it is edited, from the text that a document holds.
+std::string shownDescription(std::string_view text) {
+  const std::string unmarked = text::replaceAll(text, descriptionMarker, "");
+  return ReverseDescription(text::replaceAll(unmarked, "\n", text::crLf));
+}
+
 /// Puts what is heard where it belongs. Of elements that a path leads to several times the first one counts, except for
 /// those that are lists.
 class CycleContent : public platform::XmlContent {
  public:
   void startElement(std::string_view name, const std::vector<platform::XmlAttribute>& attributes) override {
     ++depth_;
-    cycle.isEmpty = false;
+    loaded_.isEmpty = false;
     if (depth_ > placedDepth_ + 1) return;  // in an element that is read as a text, or not at all
     const Place place = placeOf(name);
     if (place == Place::Elsewhere) return;
@@ -51,7 +63,11 @@ class CycleContent : public platform::XmlContent {
     --placedDepth_;
   }
 
-  LoadedCycle cycle;
+  /// What has been heard, when everything has.
+  LoadedCycle take() {
+    loaded_.cycle.description = shownDescription(description_.value_or(""));
+    return std::move(loaded_);
+  }
 
  private:
   Place placeOf(std::string_view name) const {
@@ -59,8 +75,8 @@ class CycleContent : public platform::XmlContent {
     switch (places_.back()) {
       case Place::Cycle: return placeInCycle(name);
       case Place::Variables: return Place::Variable;
-      case Place::AtomSequence: return name == "ATOMS" && !cycle.hasAtoms ? Place::Atoms : Place::Elsewhere;
-      case Place::Atoms: return name == "ATOM" && !cycle.lacksElement ? Place::Atom : Place::Elsewhere;
+      case Place::AtomSequence: return name == "ATOMS" && !loaded_.hasAtoms ? Place::Atoms : Place::Elsewhere;
+      case Place::Atoms: return name == "ATOM" && !loaded_.lacksElement ? Place::Atom : Place::Elsewhere;
       case Place::Atom:
         if (name == "ATOMNAME" && !atomName_) return Place::AtomName;
         return name == "PARAMETERS" ? Place::Parameters : Place::Elsewhere;
@@ -73,20 +89,20 @@ class CycleContent : public platform::XmlContent {
   }
 
   Place placeInCycle(std::string_view name) const {
-    if (name == "DESCRIPTION" && !cycle.description) return Place::Description;
-    if (name == "VARIABLES" && !cycle.variables) return Place::Variables;
-    if (name == "VERSION" && !cycle.facts.version) return Place::Version;
+    if (name == "DESCRIPTION" && !description_) return Place::Description;
+    if (name == "VARIABLES" && !loaded_.hasVariables) return Place::Variables;
+    if (name == "VERSION" && !loaded_.facts.version) return Place::Version;
     return name == "ATOMSEQUENCE" ? Place::AtomSequence : Place::Elsewhere;
   }
 
   void start(Place place, const std::vector<platform::XmlAttribute>& attributes) {
     switch (place) {
       case Place::Cycle: takeTimestamps(attributes); break;
-      case Place::Description: text_ = &cycle.description.emplace(); break;
-      case Place::Variables: variables_ = &cycle.variables.emplace(); break;
-      case Place::Variable: text_ = &variables_->emplace_back(); break;
-      case Place::Version: text_ = &cycle.facts.version.emplace(); break;
-      case Place::Atoms: cycle.hasAtoms = true; break;
+      case Place::Description: text_ = &description_.emplace(); break;
+      case Place::Variables: loaded_.hasVariables = true; break;
+      case Place::Variable: text_ = &variable_.emplace(); break;
+      case Place::Version: text_ = &loaded_.facts.version.emplace(); break;
+      case Place::Atoms: loaded_.hasAtoms = true; break;
       case Place::Atom: startAtom(); break;
       case Place::AtomName: text_ = &atomName_.emplace(); break;
       case Place::Parameter: startParameter(); break;
@@ -98,20 +114,21 @@ class CycleContent : public platform::XmlContent {
 
   void end(Place place) {
     text_ = nullptr;
+    if (place == Place::Variable) loaded_.cycle.variables.emplace_back(std::move(*variable_));
     if (place == Place::Parameter) endParameter();
     if (place == Place::Atom) endAtom();
   }
 
   void takeTimestamps(const std::vector<platform::XmlAttribute>& attributes) {
     for (const platform::XmlAttribute& attribute : attributes) {
-      if (attribute.name == "Created") cycle.facts.created = attribute.value;
-      if (attribute.name == "Modified") cycle.facts.modified = attribute.value;
+      if (attribute.name == "Created") loaded_.facts.created = attribute.value;
+      if (attribute.name == "Modified") loaded_.facts.modified = attribute.value;
     }
   }
 
   void startAtom() {
     atomName_.reset();
-    parameters_.clear();
+    parameters_ = {};
     atomLacksElement_ = false;
   }
 
@@ -125,26 +142,27 @@ class CycleContent : public platform::XmlContent {
       atomLacksElement_ = true;
       return;
     }
-    if (!parameters_.empty()) parameters_ += '\r';
-    parameters_.append(*paramName_).append(";").append(*paramValue_);
+    parameters_.append(*paramName_, *paramValue_);
   }
 
   void endAtom() {
     if (!atomName_ || atomLacksElement_) {
-      cycle.lacksElement = true;
+      loaded_.lacksElement = true;
       return;
     }
-    if (parameters_.starts_with(';')) parameters_.erase(0, 1);
-    cycle.atomLines.push_back({std::move(*atomName_), parameters_});
+    parameters_.endAppending();
+    loaded_.cycle.lines.push_back({std::move(*atomName_), std::move(parameters_)});
   }
 
   int depth_ = 0;
   int placedDepth_ = 0;          // of the innermost open element that has a place
   std::vector<Place> places_;    // of the open elements that have one
   std::string* text_ = nullptr;  // what the text goes to; null: nowhere
-  std::vector<std::string>* variables_ = nullptr;
+  LoadedCycle loaded_;
+  std::optional<std::string> description_;
+  std::optional<std::string> variable_;
   std::optional<std::string> atomName_;
-  std::string parameters_;
+  ParameterText parameters_;
   bool atomLacksElement_ = false;
   std::optional<std::string> paramName_;
   std::optional<std::string> paramValue_;
@@ -155,7 +173,7 @@ class CycleContent : public platform::XmlContent {
 LoadedCycle readCycle(std::string_view text, platform::XmlDocumentFactory& xmlDocuments) {
   CycleContent content;
   if (!xmlDocuments.readDocument(text, content)) return {};
-  return std::move(content.cycle);
+  return content.take();
 }
 
 }  // namespace mavCycEd

@@ -30,12 +30,14 @@ void ReferenceCycle::setLoaded(std::string_view text, CycleFacts facts) {
   text_ = text;
   isXml_ = text.empty();
   facts_ = std::move(facts);
+  timestamps_ = facts_;
 }
 
 void ReferenceCycle::setWritten(std::string xml, CycleFacts facts) {
   text_ = std::move(xml);
   isXml_ = true;
   facts_ = std::move(facts);
+  if (!text_.empty()) timestamps_ = facts_;
 }
 
 const std::string& ReferenceCycle::xml(platform::XmlDocumentFactory& xmlDocuments) {

@@ -27,6 +27,9 @@ class ReferenceCycle {
   void setWritten(std::string xml, CycleFacts facts);
 
   const CycleFacts& facts() const { return facts_; }
+  /// The facts of the last document that was not empty: a cycle that was handed back empty for a while keeps the
+  /// time of its creation. Loading forgets them.
+  const CycleFacts& timestamps() const { return timestamps_; }
   /// The document as the document service writes it out.
   const std::string& xml(platform::XmlDocumentFactory& xmlDocuments);
   /// Whether this is the text that xml() gives; `xml` comes from the document service, or reads as if it did.
@@ -36,6 +39,7 @@ class ReferenceCycle {
   std::string text_;
   bool isXml_ = true;  // the text is as the document service writes it out
   CycleFacts facts_;
+  CycleFacts timestamps_;
 };
 
 }  // namespace mavCycEd

@@ -36,8 +36,8 @@ CycleNotice::Range CycleNotice::covering(const std::vector<Range>& ranges) {
     const std::size_t end = all.at + all.added;
     const std::size_t nextEnd = next->at + next->removed;
     const std::size_t begin = std::min(all.at, next->at);
-    const std::size_t before = all.at - begin;                         // untouched lines that come to the range in front
-    const std::size_t behind = nextEnd > end ? nextEnd - end : 0;      // and behind it
+    const std::size_t before = all.at - begin;                     // untouched lines that come to the range in front
+    const std::size_t behind = nextEnd > end ? nextEnd - end : 0;  // and behind it
     all.removed += before + behind;
     all.added = std::max(end, nextEnd) - begin - next->removed + next->added;
     all.at = begin;

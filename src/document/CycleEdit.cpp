@@ -65,8 +65,7 @@ bool changesNothing(const Cycle& cycle, const CycleEdit::Change& change) {
   const auto isSame = [](const auto& list, const auto& splice) {
     if (splice.removed != splice.added.size()) return false;
     if (splice.at > list.size() || splice.removed > list.size() - splice.at) return false;
-    return std::equal(splice.added.begin(), splice.added.end(),
-                      list.begin() + static_cast<std::ptrdiff_t>(splice.at));
+    return std::equal(splice.added.begin(), splice.added.end(), list.begin() + static_cast<std::ptrdiff_t>(splice.at));
   };
   return std::visit(Overloaded{[&](const LineSplice& splice) { return isSame(cycle.lines, splice); },
                                [&](const PlaceSplice& splice) {
@@ -149,9 +148,9 @@ CycleEdit removeVariable(std::size_t at) { return CycleEdit(VariableSplice{at, 1
 
 CycleEdit changeDescription(std::string_view before, std::string_view text) {
   const std::size_t shorter = std::min(before.size(), text.size());
-  const auto start =
-      static_cast<std::size_t>(std::mismatch(before.begin(), before.begin() + static_cast<std::ptrdiff_t>(shorter), text.begin()).first -
-                               before.begin());
+  const auto start = static_cast<std::size_t>(
+      std::mismatch(before.begin(), before.begin() + static_cast<std::ptrdiff_t>(shorter), text.begin()).first -
+      before.begin());
   std::size_t end = 0;
   while (end < shorter - start && before[before.size() - 1 - end] == text[text.size() - 1 - end]) ++end;
   if (start + end == before.size() && before.size() == text.size()) return {};

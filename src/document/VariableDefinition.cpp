@@ -12,9 +12,9 @@ std::string_view before(std::string_view text, char character) { return text.sub
 
 /// The first field: a name with its unit.
 struct NameAndUnit {
-  std::string name;                ///< without the unit part, untrimmed
+  std::string name;                 ///< without the unit part, untrimmed
   std::optional<std::string> unit;  ///< what stands in the parentheses; nothing without them
-  std::string behind;              ///< what stands behind the parentheses
+  std::string behind;               ///< what stands behind the parentheses
 };
 
 NameAndUnit nameAndUnit(std::string_view field) {

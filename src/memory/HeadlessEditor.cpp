@@ -21,6 +21,7 @@ ControlScreen MemoryScreen::controls() {
           .cmdDefault = cmdDefault,
           .mnuSubParam = mnuSubParam,
           .tmrUpdateGrid = tmrUpdateGrid,
+          .tmrTypingPause = tmrTypingPause,
           .variableDialogs = variableDialogs};
 }
 

@@ -35,6 +35,7 @@ struct MemoryScreen {
   MemoryButton cmdDefault{&fraSelectedMacro};
   MemoryPopupMenu mnuSubParam;
   MemoryTimer tmrUpdateGrid;
+  MemoryTimer tmrTypingPause;
   MemoryVariableDialogs variableDialogs;
 
   ControlScreen controls();

@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "editing/VariableDialogScreen.h"
 #include "memory/MemoryButton.h"
 #include "memory/MemoryComboBox.h"
 #include "memory/MemoryFrame.h"
@@ -15,6 +14,7 @@
 #include "memory/MemorySelectionList.h"
 #include "memory/MemoryTextBox.h"
 #include "memory/MemoryValueList.h"
+#include "panels/VariableDialogScreen.h"
 
 namespace mavCycEd::memory {
 

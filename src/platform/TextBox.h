@@ -10,6 +10,8 @@ namespace mavCycEd::platform {
 struct TextBoxEvents {
   /// The user changed the text (typed, pasted, deleted). Code that sets the text raises nothing.
   std::function<void()> Change;
+  /// The keyboard focus left the box.
+  std::function<void()> LostFocus;
 };
 
 /// A text that the user can edit.

@@ -29,8 +29,12 @@ void layOutList(QGroupBox& frame, QWidget* list, std::initializer_list<QPushButt
 
 }  // namespace
 
-EditorScreen::EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer)
-    : control_(control), content_(new QWidget(&control)), tmrUpdateGrid_(std::move(gridTimer)) {
+EditorScreen::EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer,
+                           std::shared_ptr<platform::Timer> typingTimer)
+    : control_(control),
+      content_(new QWidget(&control)),
+      tmrUpdateGrid_(std::move(gridTimer)),
+      tmrTypingPause_(std::move(typingTimer)) {
   gate_.setEndEdit([this] { GrdAtom_.endEdit(); });
   mnuSubParam_.setPlace([this] { return GrdAtom_.view()->menuPlace(); });
   if (!tmrUpdateGrid_) {
@@ -38,6 +42,7 @@ EditorScreen::EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gr
     giveWayToOperator(*timer);
     tmrUpdateGrid_ = std::move(timer);
   }
+  if (!tmrTypingPause_) tmrTypingPause_ = std::make_shared<QtTimer>("tmrTypingPause");
   layOut();
   connectKeys();
   setTabOrder();
@@ -78,6 +83,7 @@ ControlScreen EditorScreen::controls() {
           .cmdDefault = cmdDefault_,
           .mnuSubParam = mnuSubParam_,
           .tmrUpdateGrid = *tmrUpdateGrid_,
+          .tmrTypingPause = *tmrTypingPause_,
           .variableDialogs = variableDialogs_};
 }
 

@@ -29,7 +29,8 @@ class EditorScreen {
  public:
   /// Fills `control` with widgets, which the screen owns. Without a grid timer the screen has its own, which gives way
   /// to an operator who works in the grid already.
-  EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer);
+  EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gridTimer,
+               std::shared_ptr<platform::Timer> typingTimer);
 
   /// The control goes while one of its procedures is still running: the widgets leave it, the dialog's with them, and
   /// stay until the event that they are answering has been dealt with.
@@ -74,6 +75,7 @@ class EditorScreen {
   QtButton cmdDel_{gate_, "cmdDel", fraVariables_.widget()};
   QtPopupMenu mnuSubParam_{gate_, "mnuParam", content_.get()};
   std::shared_ptr<platform::Timer> tmrUpdateGrid_;
+  std::shared_ptr<platform::Timer> tmrTypingPause_;
   HelpDesk help_{control_};
   HelpKey helpKey_{control_, [this] { help_.show(helpPage()); }};
   QtVariableDialogs variableDialogs_{control_, help_};

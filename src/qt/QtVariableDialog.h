@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "editing/VariableDialogScreen.h"
+#include "panels/VariableDialogScreen.h"
 #include "platform/CommandGate.h"
 #include "qt/HelpDesk.h"
 #include "qt/QtButton.h"

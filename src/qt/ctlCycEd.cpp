@@ -29,7 +29,7 @@ HostServices completed(ctlCycEd& control, HostServices services) {
 /// What the editor works on. It lives until the control is gone and its last procedure has ended.
 struct Surroundings {
   Surroundings(ctlCycEd& control, HostServices given)
-      : services(completed(control, std::move(given))), screen(control, services.gridTimer) {}
+      : services(completed(control, std::move(given))), screen(control, services.gridTimer, services.typingTimer) {}
 
   PlatformServices platformServices() {
     return {xmlDocuments, *services.messageBox, systemMessage, codePage, *services.clock};

@@ -20,7 +20,7 @@ std::shared_ptr<platform::Timer> timerOr(std::shared_ptr<platform::Timer> timer,
 }  // namespace
 
 EditorControls::EditorControls(HWND panel, const platform::CommandGate& gate,
-                               std::shared_ptr<platform::Timer> gridTimer)
+                               std::shared_ptr<platform::Timer> gridTimer, std::shared_ptr<platform::Timer> typingTimer)
     : fraSelectedMacro(panel, nullptr),
       fraCyclePart(panel, nullptr),
       fraDescription(panel, &fraCyclePart),
@@ -38,12 +38,14 @@ EditorControls::EditorControls(HWND panel, const platform::CommandGate& gate,
       cmdIns(gate, panel, &fraVariables),
       cmdDel(gate, panel, &fraVariables),
       mnuSubParam(gate, [this] { return GrdAtom.view().handle(); }),
-      tmrUpdateGrid(timerOr(std::move(gridTimer), GrdAtom)) {}
+      tmrUpdateGrid(timerOr(std::move(gridTimer), GrdAtom)),
+      tmrTypingPause(typingTimer ? std::move(typingTimer) : std::make_shared<Win32Timer>()) {}
 
-EditorScreen::EditorScreen(HWND parent, std::shared_ptr<platform::Timer> gridTimer)
+EditorScreen::EditorScreen(HWND parent, std::shared_ptr<platform::Timer> gridTimer,
+                           std::shared_ptr<platform::Timer> typingTimer)
     : parking_(nullptr, WS_POPUP, 0),
       panel_(parent != nullptr ? parent : parking_.handle(), WS_CHILD | WS_CLIPSIBLINGS, 0),
-      controls_(panel_.handle(), gate_, std::move(gridTimer)),
+      controls_(panel_.handle(), gate_, std::move(gridTimer), std::move(typingTimer)),
       variableDialogs_([this] { return window(); }) {
   gate_.setEndEdit([this] { controls_.GrdAtom.endEdit(); });
   controls_.mnuSubParam.setPlace([this] { return controls_.GrdAtom.view().menuPlace(); });
@@ -95,6 +97,7 @@ ControlScreen EditorScreen::controls() {
           .cmdDefault = c.cmdDefault,
           .mnuSubParam = c.mnuSubParam,
           .tmrUpdateGrid = *c.tmrUpdateGrid,
+          .tmrTypingPause = *c.tmrTypingPause,
           .variableDialogs = variableDialogs_};
 }
 

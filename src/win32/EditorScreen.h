@@ -25,7 +25,8 @@ namespace mavCycEd::win32 {
 /// The child controls of the editor's screen, in the order of the Tab key as far as they take the focus: choose an
 /// atom, fill in its values, put it into the sequence. Frames stand before what stands in them.
 struct EditorControls {
-  EditorControls(HWND panel, const platform::CommandGate& gate, std::shared_ptr<platform::Timer> gridTimer);
+  EditorControls(HWND panel, const platform::CommandGate& gate, std::shared_ptr<platform::Timer> gridTimer,
+                 std::shared_ptr<platform::Timer> typingTimer);
 
   Win32Frame fraSelectedMacro;
   Win32Frame fraCyclePart;
@@ -45,6 +46,7 @@ struct EditorControls {
   Win32Button cmdDel;
   Win32PopupMenu mnuSubParam;
   std::shared_ptr<platform::Timer> tmrUpdateGrid;
+  std::shared_ptr<platform::Timer> tmrTypingPause;
 };
 
 /// The screen of the editor: a window with the child controls, to be a child of the host's.
@@ -55,7 +57,8 @@ class EditorScreen {
  public:
   /// `parent`: the window that the editor stands in; nullptr: none yet (see setParent). Without a grid timer the screen
   /// has its own, which waits while a value is being edited.
-  explicit EditorScreen(HWND parent, std::shared_ptr<platform::Timer> gridTimer = nullptr);
+  explicit EditorScreen(HWND parent, std::shared_ptr<platform::Timer> gridTimer = nullptr,
+                        std::shared_ptr<platform::Timer> typingTimer = nullptr);
   ~EditorScreen();
   EditorScreen(const EditorScreen&) = delete;
   EditorScreen& operator=(const EditorScreen&) = delete;

@@ -19,7 +19,7 @@ EditorServices completed(EditorServices services, EditorScreen& screen) {
 
 Surroundings::Surroundings(HWND parent, std::unique_ptr<platform::XmlDocumentFactory> documents, EditorServices given)
     : xmlDocuments(std::move(documents)),
-      screen(parent, given.gridTimer),
+      screen(parent, given.gridTimer, given.typingTimer),
       services(completed(std::move(given), screen)) {
   screen.setHelp([file = services.helpFile, viewer = services.helpViewer, messageBox = services.messageBox](
                      HWND over, HelpPage page) { showHelp(over, page, file, viewer, *messageBox); });

@@ -18,6 +18,7 @@ struct EditorServices {
   std::shared_ptr<platform::MessageBox> messageBox = nullptr;
   std::shared_ptr<platform::Clock> clock = nullptr;
   std::shared_ptr<platform::Timer> gridTimer = nullptr;
+  std::shared_ptr<platform::Timer> typingTimer = nullptr;
   std::wstring helpFile = {};
   HelpViewer helpViewer = nullptr;
 };

@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include "editing/VariableDialogScreen.h"
+#include "panels/VariableDialogScreen.h"
 #include "platform/CommandGate.h"
 #include "win32/Win32Button.h"
 #include "win32/Win32ComboBox.h"

@@ -1,4 +1,4 @@
-#include "editing/AtomSequenceEditing.h"
+#include "panels/AtomSequenceEditing.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -43,12 +43,16 @@ class AtomSequenceEditingTest : public ::testing::Test {
     editor_.choose(atom);
     editor_.replace();
   }
-  cAtom& atom(int position) { return editor_.control().atoms().Item(position); }
   void numberPositions() {
-    for (int position = 1; position <= editor_.control().atoms().Count(); ++position) {
-      atom(position).setDuration("d" + std::to_string(position));
-      atom(position).setGroupIndex("g" + std::to_string(position));
+    for (std::size_t i = 0; i < editor_.control().cycle().lines.size(); ++i) {
+      const std::string number = std::to_string(i + 1);
+      editor_.control().document().perform(edits::setPlace(i, {"d" + number, "g" + number}));
     }
+  }
+  void setParameters(std::size_t index, const char* parameters) {
+    AtomLine line = editor_.control().cycle().lines[index];
+    line.parameters = ParameterText(parameters);
+    editor_.control().document().perform(edits::replaceLine(index, line));
   }
   std::vector<std::string> durations() {
     std::vector<std::string> result;
@@ -137,8 +141,8 @@ TEST_F(AtomSequenceEditingTest, InsertLeavesDurationAndGroupIndexAtTheirPosition
 
 TEST_F(AtomSequenceEditingTest, InsertMovesNamesWithTheirParameters) {
   load({"A", "B"});
-  atom(1).setAtomParameters(std::string("first;1"));
-  atom(2).setAtomParameters(std::string("second;2"));
+  setParameters(0, "first;1");
+  setParameters(1, "second;2");
   editor_.select(0);
   insert("MIX");
   EXPECT_THAT(editor_.atomNames(), ElementsAre("A", "MIX", "B"));
@@ -348,11 +352,15 @@ TEST(AtomSequenceEditingBehindAFailure, AnInsertShowsWhatWasReadBeforeIt) {
 class BrokenList : public memory::MemoryLineListBox {
  public:
   BrokenList() : MemoryLineListBox(nullptr) {}
-  void spliced(int, int, int) override { throw RunTimeError(1, "no line"); }
+  void spliced(int at, int removed, int added) override {
+    if (isBroken) throw RunTimeError(1, "no line");
+    MemoryLineListBox::spliced(at, removed, added);
+  }
   void showLines(const platform::ListLines& lines) override {
-    if (itemCount() > 0) throw RunTimeError(2, "no list");
+    if (isBroken) throw RunTimeError(2, "no list");
     MemoryLineListBox::showLines(lines);
   }
+  bool isBroken = false;
 };
 
 TEST(AtomSequenceEditingFailures, AreReportedUnderTheProceduresName) {
@@ -375,26 +383,26 @@ TEST(AtomSequenceEditingFailures, AreReportedUnderTheProceduresName) {
   } provider;
   ParamGrid paramGrid(GrdAtom, grid, helper, provider, sink);
   memory::MemoryItemListBox lstVariables(nullptr);
-  ExtraValues extraValues(GrdAtom, grid, lstVariables, sink);
+  memory::MemoryTextBox txtCycleDescription(nullptr);
+  const CycleScreen screen{txtCycleDescription, lstVariables, lstAtomSequence};
+  ExtraValues extraValues(GrdAtom, grid, cycle.cycle(), sink);
+  CycleView view(cycle, screen, extraValues, sink);
   ValueValidation validation(GrdAtom, grid, helper, platform.messageBox, sink);
-  AtomSequenceEditing editing(cycle, {lstAtomSequence, cboAtom, GrdAtom, tmrUpdateGrid},
+  AtomSequenceEditing editing(cycle, {screen, cboAtom, GrdAtom, tmrUpdateGrid}, view,
                               {grid, paramGrid, extraValues, validation}, sink);
-  cboAtom.addItem("A");
+  cboAtom.addItem("B");
   cboAtom.setIndex(0);
-  cycle.atoms.Add("A", "", "", std::string());
+  cycle.document.load({"", {}, {{"A", {}}, {"A", {}}}, {}});
   cycle.display.rebuild();
   lstAtomSequence.showLines(cycle.display);
   lstAtomSequence.setIndex(0);
+  lstAtomSequence.isBroken = true;
   editing.cmdReplace_Click();
   EXPECT_THAT(sink.procedures(), ElementsAre("cmdReplace_Click"));
   sink.reports.clear();
   editing.cmdInset_Click();
   EXPECT_THAT(sink.procedures(), ::testing::Contains("lstRefresh"));
   sink.reports.clear();
-  lstAtomSequence.clear();
-  lstAtomSequence.showLines(cycle.display);
-  lstAtomSequence.setIndex(1);
-  cycle.atoms.Clear();
   editing.cmdDelete_Click();
   EXPECT_THAT(sink.procedures(), ElementsAre("cmdDelete_Click"));
 }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "paramgrid/ObjectTests.h"
+#include "rules/ObjectTests.h"
 
 namespace mavCycEd {
 namespace {

@@ -1,4 +1,4 @@
-#include "cycle/CycleLoader.h"
+#include "panels/CycleLoader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,12 +8,12 @@
 #include <vector>
 
 #include "TestDocuments.h"
-#include "TestLines.h"
 #include "TestPlatform.h"
 #include "memory/MemoryComboBox.h"
 #include "memory/MemoryListBox.h"
 #include "memory/MemoryTextBox.h"
 #include "memory/MemoryValueList.h"
+#include "panels/CycleView.h"
 
 namespace mavCycEd {
 namespace {
@@ -22,6 +22,14 @@ using test::CycleOf;
 using test::cycleOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+
+/// A line that no cycle has.
+class OneLine : public platform::ListLines {
+ public:
+  int count() const override { return 1; }
+  std::string text(int) const override { return "01 MIX"; }
+  int longest() const override { return 0; }
+};
 
 class CycleLoaderTest : public ::testing::Test {
  protected:
@@ -44,22 +52,21 @@ class CycleLoaderTest : public ::testing::Test {
   }
   std::vector<std::string> names() const {
     std::vector<std::string> result;
-    for (const cAtom& atom : cycle_.atoms) result.push_back(atom.AtomName());
+    for (const AtomLine& line : cycle_.cycle().lines) result.push_back(line.name);
     return result;
   }
   /// The parameter text of the one atom line with these parameters.
   std::string parametersFrom(const std::vector<std::pair<std::string, std::string>>& parameters) {
-    cycle_.atoms.Clear();
+    cycle_.document.load({});
     CycleOf cycle;
     cycle.lines = {{"MIX", parameters}};
     fill(xmlOf(cycle));
-    return textOf(cycle_.atoms.Item(1).AtomParameters());
+    return cycle_.cycle().lines.front().parameters.text();
   }
   /// Selects a line with this parameter text; the values that the grid then shows.
   std::vector<std::string> valuesShownFor(const std::string& parameters) {
     for (int row = 1; row <= 3; ++row) GrdAtom_.setValue(1, row, "old");
-    cycle_.atoms.Clear();
-    cycle_.atoms.Add("MIX", "", "", parameters);
+    cycle_.document.load({"", {}, {{"MIX", ParameterText(parameters)}}, {}});
     cycle_.display.rebuild();
     lstAtomSequence_.showLines(cycle_.display);
     lstAtomSequence_.setIndex(0);
@@ -74,7 +81,11 @@ class CycleLoaderTest : public ::testing::Test {
   memory::MemoryComboBox cboAtom_{nullptr};
   memory::MemoryValueList GrdAtom_{nullptr};
   test::RecordingSink sink_;
-  CycleLoader loader_{cycle_, {txtCycleDescription_, lstVariables_, lstAtomSequence_}, cboAtom_, GrdAtom_, sink_};
+  GridState grid_;
+  CycleScreen screen_{txtCycleDescription_, lstVariables_, lstAtomSequence_};
+  ExtraValues extraValues_{GrdAtom_, grid_, cycle_.cycle(), sink_};
+  CycleView view_{cycle_, screen_, extraValues_, sink_};
+  CycleLoader loader_{cycle_, screen_, cboAtom_, GrdAtom_, sink_};
   int picks_ = 0;
 };
 
@@ -87,7 +98,7 @@ TEST_F(CycleLoaderTest, FillsDescriptionVariablesAtomLinesAndSequence) {
   EXPECT_EQ(txtCycleDescription_.text(), "Größe");
   EXPECT_THAT(lstVariables_.items(), ElementsAre("Vol;ml;1;0;9", "Rack;TRAY"));
   EXPECT_THAT(names(), ElementsAre("MIX", "WAIT"));
-  EXPECT_EQ(textOf(cycle_.atoms.Item(1).AtomParameters()), "Volume;10\rSpeed;5");
+  EXPECT_EQ(cycle_.cycle().lines.front().parameters.text(), "Volume;10\rSpeed;5");
   EXPECT_THAT(lstAtomSequence_.items(), ElementsAre("01 MIX", "02 WAIT"));
   EXPECT_THAT(sink_.reports, IsEmpty());
 }
@@ -106,8 +117,6 @@ TEST_F(CycleLoaderTest, ReplacesWhatTheScreenShowedButAddsToTheAtomLines) {
 TEST_F(CycleLoaderTest, WithoutVariablesNothingIsLoaded) {
   txtCycleDescription_.setText("old");
   lstVariables_.addItem("old");
-  const test::TestLines old({"old"});
-  lstAtomSequence_.showLines(old);
   fill(
       "<CYCLE><DESCRIPTION>//new</DESCRIPTION><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>MIX</ATOMNAME></ATOM></ATOMS>"
       "</ATOMSEQUENCE></CYCLE>");
@@ -166,8 +175,7 @@ TEST_F(CycleLoaderTest, DurationAndGroupIndexAreEmpty) {
   fill(
       "<CYCLE><VARIABLES/><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>MIX</ATOMNAME><Duration>5</Duration><PARAMETERS/></ATOM>"
       "</ATOMS></ATOMSEQUENCE></CYCLE>");
-  EXPECT_EQ(cycle_.atoms.Item(1).Duration(), "");
-  EXPECT_EQ(cycle_.atoms.Item(1).GroupIndex(), "");
+  EXPECT_THAT(cycle_.cycle().places, IsEmpty());
 }
 
 TEST_F(CycleLoaderTest, TheSummaryIsNotRead) {
@@ -180,9 +188,9 @@ TEST_F(CycleLoaderTest, TheSummaryIsNotRead) {
 }
 
 TEST_F(CycleLoaderTest, TheSequenceIsNumberedAndIndentedFromTheMargin) {
-  cycle_.atoms.Add("REPEAT", "", "", std::string());
+  cycle_.document.load({"", {}, {{"REPEAT", {}}}, {}});
   cycle_.display.rebuild();
-  cycle_.atoms.Clear();
+  cycle_.document.load({});
   fill(cycleOf({"REPEAT", "A", "REPEAT", "B", "END", "END"}));
   EXPECT_THAT(lstAtomSequence_.items(),
               ElementsAre("01 REPEAT", "02    A", "03    REPEAT", "04       B", "05    END", "06 END"));
@@ -213,7 +221,7 @@ TEST_F(CycleLoaderTest, AnAtomLineWithoutANameEndsTheLoading) {
 TEST_F(CycleLoaderTest, AParameterWithoutNameOrValueEndsTheLoading) {
   for (const char* parameter : {"<PARAMVALUE>1</PARAMVALUE>", "<PARAMNAME>Volume</PARAMNAME>", ""}) {
     sink_.reports.clear();
-    cycle_.atoms.Clear();
+    cycle_.document.load({});
     fill("<CYCLE><VARIABLES/><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>MIX</ATOMNAME><PARAMETERS><PARAMETER>" +
          std::string(parameter) + "</PARAMETER></PARAMETERS></ATOM></ATOMS></ATOMSEQUENCE></CYCLE>");
     EXPECT_THAT(sink_.procedures(), ElementsAre("FillCycle")) << parameter;
@@ -289,8 +297,10 @@ TEST_F(CycleLoaderTest, ADoubleClickRemovesTheSelection) {
 }
 
 TEST_F(CycleLoaderTest, ALineWithoutARecordIsReported) {
-  const test::TestLines lines({"01 MIX"});
-  lstAtomSequence_.showLines(lines);
+  fill(cycleOf({"MIX"}));
+  cycle_.document.perform(edits::removeLines(0, 1));
+  const OneLine line;
+  lstAtomSequence_.showLines(line);
   lstAtomSequence_.setIndex(0);
   EXPECT_THAT(sink_.procedures(), ElementsAre("lstAtomSequence_Click"));
   EXPECT_EQ(sink_.reports.front().number, 9);

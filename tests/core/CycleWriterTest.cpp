@@ -8,10 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "TestLines.h"
 #include "TestPlatform.h"
-#include "memory/MemoryListBox.h"
-#include "memory/MemoryTextBox.h"
 
 namespace mavCycEd {
 namespace {
@@ -25,11 +22,9 @@ using ::testing::StartsWith;
 class CycleWriterTest : public ::testing::Test {
  protected:
   void addAtom(const std::string& name, const std::string& parameters = {}) {
-    cycle_.atoms.Add(name, "", "", parameters);
-    cycle_.display.append();
-    lstAtomSequence_.showLines(cycle_.display);
+    cycle_.lines.push_back({name, ParameterText(parameters)});
   }
-  void setReference(std::string_view xml) { cycle_.reference.setLoaded(xml, factsOf(*parsed(xml))); }
+  void setReference(std::string_view xml) { reference_.setLoaded(xml, factsOf(*parsed(xml))); }
   using Writer = std::string (CycleWriter::*)();
   static constexpr std::array<Writer, 3> writers = {
       &CycleWriter::RetrieveCycleVersion02, &CycleWriter::RetrieveCycleVersion03, &CycleWriter::RetrieveNewCycle};
@@ -57,30 +52,23 @@ class CycleWriterTest : public ::testing::Test {
     return attribute ? attribute->value : "none";
   }
 
-  CycleState cycle_;
-  memory::MemoryTextBox txtCycleDescription_{nullptr};
-  memory::MemoryItemListBox lstVariables_{nullptr};
-  memory::MemoryLineListBox lstAtomSequence_{nullptr};
-  CycleScreen screen_{txtCycleDescription_, lstVariables_, lstAtomSequence_};
+  Cycle cycle_;
+  ReferenceCycle reference_;
   libxml2::Libxml2DocumentFactory xml_;
   test::HandSetClock clock_;
   test::RecordingSink sink_;
-  CycleWriter writer_{cycle_, screen_, xml_, clock_, sink_};
+  CycleWriter writer_{cycle_, reference_, xml_, clock_, sink_};
 };
 
 TEST_F(CycleWriterTest, AnEmptySequenceGivesAnEmptyText) {
-  lstVariables_.addItem("Vol;ml;1;0;9");
-  txtCycleDescription_.setText("not lost, only not written");
+  cycle_.variables.emplace_back("Vol;ml;1;0;9");
+  cycle_.description = "not lost, only not written";
   for (const Writer writer : writers) EXPECT_EQ(write(writer), "");
   EXPECT_THAT(sink_.reports, IsEmpty());
 }
 
-TEST_F(CycleWriterTest, AtomLinesOrDisplayLinesAloneMakeASequence) {
-  cycle_.atoms.Add("MIX", "", "", std::string());
-  for (const Writer writer : writers) EXPECT_THAT(write(writer), StartsWith("<CYCLE"));
-  cycle_.atoms.Clear();
-  const test::TestLines lines({"01 MIX"});
-  lstAtomSequence_.showLines(lines);
+TEST_F(CycleWriterTest, AtomLinesAloneMakeASequence) {
+  addAtom("MIX");
   for (const Writer writer : writers) EXPECT_THAT(write(writer), StartsWith("<CYCLE"));
 }
 
@@ -111,7 +99,7 @@ TEST_F(CycleWriterTest, Version02HasNoTimestamps) {
 TEST_F(CycleWriterTest, WithoutAReferenceBothTimestampsAreNow) {
   addAtom("MIX");
   for (const Writer writer : {writers[1], writers[2]}) {
-    cycle_.reference = ReferenceCycle();
+    reference_ = ReferenceCycle();
     EXPECT_EQ(timestamp(writer, "Created"), "2024-03-09T14:05:00");
     EXPECT_EQ(timestamp(writer, "Modified"), "2024-03-09T14:05:00");
     setReference("<CYCLE/>");
@@ -144,15 +132,18 @@ TEST_F(CycleWriterTest, AMissingTimestampIsNowWhateverTheOtherIs) {
   EXPECT_EQ(timestamp(writers[1], "Modified"), "2024-03-09T14:05:00");
 }
 
-TEST_F(CycleWriterTest, TheWorkingDocumentHasNoSayInTheTimestamps) {
+TEST_F(CycleWriterTest, AnEmptyReferenceLeavesTheTimestampsOfTheOneBefore) {
   addAtom("MIX");
-  cycle_.working = readCycle("<CYCLE Created=\"2001-01-01T01:01:01\" Modified=\"2002-02-02T02:02:02\"/>", xml_);
-  EXPECT_EQ(timestamp(writers[1], "Created"), "2024-03-09T14:05:00");
+  setReference("<CYCLE Created=\"2001-01-01T01:01:01\" Modified=\"2002-02-02T02:02:02\"/>");
+  reference_.setWritten("", {});
+  EXPECT_EQ(timestamp(writers[2], "Created"), "2001-01-01T01:01:01");
+  reference_.setLoaded("", {});
+  EXPECT_EQ(timestamp(writers[2], "Created"), "2024-03-09T14:05:00") << "but not where an empty one was loaded";
 }
 
 TEST_F(CycleWriterTest, ADescriptionIsEscapedOnceMoreInVersion02) {
   addAtom("MIX");
-  txtCycleDescription_.setText("a<b & \"c\" 'd'");
+  cycle_.description = "a<b & \"c\" 'd'";
   EXPECT_EQ(description(writers[0]), "//a&lt;b &amp; &quot;c&quot; &apos;d&apos;");
   EXPECT_EQ(description(writers[1]), "//a<b & \"c\" 'd'");
   EXPECT_EQ(description(writers[2]), "//a<b & \"c\" 'd'");
@@ -165,13 +156,14 @@ TEST_F(CycleWriterTest, AnEmptyDescriptionIsTheMarkerAlone) {
 
 TEST_F(CycleWriterTest, TheLinesOfADescriptionEndWithLineFeeds) {
   addAtom("MIX");
-  txtCycleDescription_.setText("Größe\r\n\r\n 10 µl \r\n");
+  cycle_.description = "Größe\r\n\r\n 10 µl \r\n";
   for (const Writer writer : writers) EXPECT_EQ(description(writer), "//Größe\n\n 10 µl \n");
 }
 
 TEST_F(CycleWriterTest, VariablesAreWrittenInOrderAsTheyStand) {
   addAtom("MIX");
-  for (const char* variable : {"Vol;ml;1;0;9", "  leading", "Rack;TRAY;RACK", "µ  "}) lstVariables_.addItem(variable);
+  for (const char* variable : {"Vol;ml;1;0;9", "  leading", "Rack;TRAY;RACK", "µ  "})
+    cycle_.variables.emplace_back(variable);
   for (const Writer writer : writers) {
     EXPECT_THAT(texts("CYCLE/VARIABLES/VALUE", writer),
                 ElementsAre("Vol;ml;1;0;9", "  leading", "Rack;TRAY;RACK", "µ  "));
@@ -180,7 +172,7 @@ TEST_F(CycleWriterTest, VariablesAreWrittenInOrderAsTheyStand) {
 
 TEST_F(CycleWriterTest, VariablesOfSpacesOnlyAreSkipped) {
   addAtom("MIX");
-  for (const char* variable : {"", "A", "   ", "B"}) lstVariables_.addItem(variable);
+  for (const char* variable : {"", "A", "   ", "B"}) cycle_.variables.emplace_back(variable);
   for (const Writer writer : writers) EXPECT_THAT(texts("CYCLE/VARIABLES/VALUE", writer), ElementsAre("A", "B"));
 }
 
@@ -238,16 +230,15 @@ TEST_F(CycleWriterTest, SummariesListValuesEachWithAComma) {
 
 TEST_F(CycleWriterTest, WhatBreaksTheXmlGivesAnEmptyText) {
   for (const char* parameters : {"A;1<2", "A;R&D", "A<B;1", "A;]]>"}) {
-    cycle_.atoms.Clear();
-    cycle_.atoms.Add("MIX", "", "", std::string(parameters));
+    cycle_.lines = {{"MIX", ParameterText(parameters)}};
     for (const Writer writer : writers) EXPECT_EQ(write(writer), "") << parameters;
   }
-  cycle_.atoms.Clear();
+  cycle_.lines.clear();
   addAtom("R&D");
   for (const Writer writer : writers) EXPECT_EQ(write(writer), "");
-  cycle_.atoms.Clear();
+  cycle_.lines.clear();
   addAtom("MIX");
-  lstVariables_.addItem("a<b");
+  cycle_.variables.emplace_back("a<b");
   for (const Writer writer : writers) EXPECT_EQ(write(writer), "");
   EXPECT_THAT(sink_.reports, IsEmpty());
 }
@@ -255,15 +246,14 @@ TEST_F(CycleWriterTest, WhatBreaksTheXmlGivesAnEmptyText) {
 TEST_F(CycleWriterTest, AnEntityInAValueIsParsed) {
   addAtom("MIX", "A;R&amp");
   EXPECT_EQ(write(writers[2]), "");
-  cycle_.atoms.Clear();
-  cycle_.atoms.Add("R&#38;D", "", "", std::string());
+  cycle_.lines = {{"R&#38;D", {}}};
   EXPECT_THAT(texts("CYCLE/ATOMSEQUENCE/ATOMS/ATOM/ATOMNAME"), ElementsAre("R&D"));
 }
 
 TEST_F(CycleWriterTest, TheDocumentHasOneElementPerLine) {
   addAtom("MIX", "Volume(µl);10");
-  lstVariables_.addItem("Vol;ml;1;0;9");
-  txtCycleDescription_.setText("Größe");
+  cycle_.variables.emplace_back("Vol;ml;1;0;9");
+  cycle_.description = "Größe";
   std::string text = write(writers[2]);
   if (text.ends_with('\n')) text.pop_back();
   EXPECT_EQ(text, R"(<CYCLE Created="2024-03-09T14:05:00" Modified="2024-03-09T14:05:00">
@@ -294,7 +284,7 @@ TEST_F(CycleWriterTest, TheDocumentHasOneElementPerLine) {
 TEST_F(CycleWriterTest, FailuresAreReportedUnderTheWritersName) {
   addAtom("R&amp;D");  // it takes a document to know how this is written
   test::BrokenDocumentFactory broken;
-  CycleWriter writer(cycle_, screen_, broken, clock_, sink_);
+  CycleWriter writer(cycle_, reference_, broken, clock_, sink_);
   for (const Writer member : writers) EXPECT_EQ((writer.*member)(), "");
   EXPECT_THAT(sink_.procedures(), ElementsAre("RetrieveCycleVersion02", "RetrieveCycleVersion03", "RetrieveNewCycle"));
   EXPECT_EQ(sink_.reports.front().number, 78);
@@ -303,7 +293,7 @@ TEST_F(CycleWriterTest, FailuresAreReportedUnderTheWritersName) {
 TEST_F(CycleWriterTest, AClockThatFailsEndsTheWritersThatNeedIt) {
   addAtom("MIX");
   const test::BrokenClock broken;
-  CycleWriter writer(cycle_, screen_, xml_, broken, sink_);
+  CycleWriter writer(cycle_, reference_, xml_, broken, sink_);
   EXPECT_THAT(writer.RetrieveCycleVersion02(), StartsWith("<CYCLE"));
   EXPECT_EQ(writer.RetrieveCycleVersion03(), "");
   EXPECT_EQ(writer.RetrieveNewCycle(), "");

@@ -112,10 +112,9 @@ bool sameLines(const std::vector<Line>& a, const std::vector<Line>& b) {
 
 /// Gives every position something that stays there.
 void markPositions(TestEditor& editor) {
-  int position = 0;
-  for (cAtom& atom : editor.control().atoms()) {
-    atom.setDuration("d" + std::to_string(++position));
-    atom.setGroupIndex("g" + std::to_string(position));
+  for (std::size_t i = 0; i < editor.control().cycle().lines.size(); ++i) {
+    const std::string number = std::to_string(i + 1);
+    editor.control().document().perform(edits::setPlace(i, {"d" + number, "g" + number}));
   }
 }
 

@@ -113,6 +113,7 @@ TEST(EditorControlStart, CopiesTheFontsOfGridAndVariables) {
                                .cmdDefault = made.cmdDefault,
                                .mnuSubParam = made.mnuSubParam,
                                .tmrUpdateGrid = made.tmrUpdateGrid,
+                               .tmrTypingPause = made.tmrTypingPause,
                                .variableDialogs = made.variableDialogs},
                               platform.services(), {});
   EXPECT_EQ(grid.cells, grid.font());

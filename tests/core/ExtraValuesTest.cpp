@@ -1,10 +1,9 @@
-#include "paramgrid/ExtraValues.h"
+#include "panels/ExtraValues.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "TestPlatform.h"
-#include "memory/MemoryListBox.h"
 #include "memory/MemoryValueList.h"
 
 namespace mavCycEd {
@@ -22,17 +21,6 @@ class BrokenGrid : public memory::MemoryValueList {
     MemoryValueList::setPickList(row, items);
   }
   int brokenRow = 0;
-};
-
-/// A list that cannot read one of its items.
-class BrokenList : public memory::MemoryItemListBox {
- public:
-  using MemoryItemListBox::MemoryItemListBox;
-  std::string itemText(int index) const override {
-    if (index == brokenItem) throw RunTimeError(78, "no item");
-    return MemoryItemListBox::itemText(index);
-  }
-  int brokenItem = -1;
 };
 
 /// A grid whose rows are written by hand: a number in ml, a pick list without a unit, a pick list of the unit None, and
@@ -59,6 +47,10 @@ class ExtraValuesTest : public ::testing::Test {
     info.IsNumeric = isNumeric;
     info.Items = pickList;
   }
+  void setVariables(const std::vector<std::string>& entries) {
+    cycle_.variables.clear();
+    for (const std::string& entry : entries) cycle_.variables.emplace_back(entry);
+  }
   std::vector<std::string> extraValues() {
     std::vector<std::string> texts;
     for (int row = Volume; row <= Place; ++row) texts.push_back(state_.rows.row(row).ExtraValues);
@@ -74,14 +66,14 @@ class ExtraValuesTest : public ::testing::Test {
 
   test::RecordingSink errors_;
   BrokenGrid grid_{nullptr};
-  BrokenList variables_{nullptr};
+  Cycle cycle_;
   GridState state_;
-  ExtraValues extra_{grid_, state_, variables_, errors_};
+  ExtraValues extra_{grid_, state_, cycle_, errors_};
 };
 
 TEST_F(ExtraValuesTest, ANumberOfTheSameUnitIsOfferedTheVariableAndGetsNoPickList) {
-  extra_.Add_Extra_Udons("Fill (ml);1;0;9");
-  extra_.Add_Extra_Udons("Rest(ml);1;0;9");
+  extra_.Add_Extra_Udons(VariableDefinition("Fill (ml);1;0;9"));
+  extra_.Add_Extra_Udons(VariableDefinition("Rest(ml);1;0;9"));
   EXPECT_THAT(extraValues(), ElementsAre("Fill;Rest", "", "", ""));
   EXPECT_EQ(items(Volume), "");
   EXPECT_THAT(pickList(Volume), IsEmpty());
@@ -89,14 +81,14 @@ TEST_F(ExtraValuesTest, ANumberOfTheSameUnitIsOfferedTheVariableAndGetsNoPickLis
 }
 
 TEST_F(ExtraValuesTest, UnitsAreComparedAsAWhole) {
-  extra_.Add_Extra_Udons("Flow (ml/min);1;0;9");
-  extra_.Add_Extra_Udons("Fill (ML);1;0;9");
+  extra_.Add_Extra_Udons(VariableDefinition("Flow (ml/min);1;0;9"));
+  extra_.Add_Extra_Udons(VariableDefinition("Fill (ML);1;0;9"));
   EXPECT_THAT(extraValues(), ElementsAre("", "", "", ""));
 }
 
 TEST_F(ExtraValuesTest, APickListWithoutAUnitIsOfferedVariablesForObjects) {
-  extra_.Add_Extra_Udons("Rack;TRAY;WASTE");
-  extra_.Add_Extra_Udons(" Shelf ;TRAY");
+  extra_.Add_Extra_Udons(VariableDefinition("Rack;TRAY;WASTE"));
+  extra_.Add_Extra_Udons(VariableDefinition(" Shelf ;TRAY"));
   EXPECT_THAT(extraValues(), ElementsAre("", "Rack;Shelf", "", ""));
   EXPECT_EQ(items(Source), "Tray1;Tray2;Rack;Shelf");
   EXPECT_THAT(pickList(Source), ElementsAre("Tray1", "Tray2", "Rack", "Shelf"));
@@ -104,13 +96,13 @@ TEST_F(ExtraValuesTest, APickListWithoutAUnitIsOfferedVariablesForObjects) {
 }
 
 TEST_F(ExtraValuesTest, EmptyParenthesesStandForTheUnitNone) {
-  extra_.Add_Extra_Udons("Rounds ();3;1;12");
+  extra_.Add_Extra_Udons(VariableDefinition("Rounds ();3;1;12"));
   EXPECT_THAT(extraValues(), ElementsAre("", "", "Rounds", ""));
   EXPECT_THAT(pickList(Mode), ElementsAre("slow", "fast", "Rounds"));
 }
 
 TEST_F(ExtraValuesTest, ANumberWhoseUnitIsAnObjectClassGetsAPickList) {
-  extra_.Add_Extra_Udons("Rack (TRAY);1;0;9");
+  extra_.Add_Extra_Udons(VariableDefinition("Rack (TRAY);1;0;9"));
   EXPECT_THAT(extraValues(), ElementsAre("", "", "", "Rack"));
   EXPECT_EQ(items(Place), "Rack");
   EXPECT_THAT(pickList(Place), ElementsAre("Rack"));
@@ -118,30 +110,30 @@ TEST_F(ExtraValuesTest, ANumberWhoseUnitIsAnObjectClassGetsAPickList) {
 }
 
 TEST_F(ExtraValuesTest, AnEntryOfOnePartIsIgnored) {
-  extra_.Add_Extra_Udons("Fill (ml)");
-  extra_.Add_Extra_Udons("");
+  extra_.Add_Extra_Udons(VariableDefinition("Fill (ml)"));
+  extra_.Add_Extra_Udons(VariableDefinition(""));
   EXPECT_THAT(extraValues(), ElementsAre("", "", "", ""));
-  extra_.Add_Extra_Udons("Fill (ml);1;0;9");
-  extra_.Delete_Extra_Udons("Fill (ml)");
+  extra_.Add_Extra_Udons(VariableDefinition("Fill (ml);1;0;9"));
+  extra_.Delete_Extra_Udons(VariableDefinition("Fill (ml)"));
   EXPECT_THAT(extraValues(), ElementsAre("Fill", "", "", ""));
 }
 
 TEST_F(ExtraValuesTest, ParenthesesTheOtherWayRoundAreNoUnit) {
-  extra_.Add_Extra_Udons("a)b(c;1;0;9");
+  extra_.Add_Extra_Udons(VariableDefinition("a)b(c;1;0;9"));
   EXPECT_THAT(extraValues(), ElementsAre("", "a)b(c", "", ""));
 }
 
 TEST_F(ExtraValuesTest, AWithdrawnVariableLeavesNothingBehind) {
   for (const char* variable : {"Fill (ml);1;0;9", "Rest (ml);1;0;9", "Rack;TRAY", "Shelf;TRAY", "Site (TRAY);1;0;9"}) {
-    extra_.Add_Extra_Udons(variable);
+    extra_.Add_Extra_Udons(VariableDefinition(variable));
   }
-  extra_.Delete_Extra_Udons("Fill (ml);1;0;9");
-  extra_.Delete_Extra_Udons("Shelf;TRAY");
+  extra_.Delete_Extra_Udons(VariableDefinition("Fill (ml);1;0;9"));
+  extra_.Delete_Extra_Udons(VariableDefinition("Shelf;TRAY"));
   EXPECT_THAT(extraValues(), ElementsAre("Rest", "Rack", "", "Site"));
   EXPECT_EQ(items(Source), "Tray1;Tray2;Rack");
-  extra_.Delete_Extra_Udons("Rest (ml);1;0;9");
-  extra_.Delete_Extra_Udons("Rack;TRAY");
-  extra_.Delete_Extra_Udons("Site (TRAY);1;0;9");
+  extra_.Delete_Extra_Udons(VariableDefinition("Rest (ml);1;0;9"));
+  extra_.Delete_Extra_Udons(VariableDefinition("Rack;TRAY"));
+  extra_.Delete_Extra_Udons(VariableDefinition("Site (TRAY);1;0;9"));
   EXPECT_THAT(extraValues(), ElementsAre("", "", "", ""));
   EXPECT_EQ(items(Source), "Tray1;Tray2");
   EXPECT_THAT(pickList(Source), ElementsAre("Tray1", "Tray2"));
@@ -151,21 +143,21 @@ TEST_F(ExtraValuesTest, AWithdrawnVariableLeavesNothingBehind) {
 }
 
 TEST_F(ExtraValuesTest, ANameThatIsPartOfAnotherStaysWhole) {
-  extra_.Add_Extra_Udons("Rack;TRAY");
-  extra_.Add_Extra_Udons("Rack_A;TRAY");
-  extra_.Delete_Extra_Udons("Rack;TRAY");
+  extra_.Add_Extra_Udons(VariableDefinition("Rack;TRAY"));
+  extra_.Add_Extra_Udons(VariableDefinition("Rack_A;TRAY"));
+  extra_.Delete_Extra_Udons(VariableDefinition("Rack;TRAY"));
   EXPECT_EQ(state_.rows.row(Source).ExtraValues, "Rack_A");
   EXPECT_EQ(items(Source), "Tray1;Tray2;Rack_A");
 }
 
 TEST_F(ExtraValuesTest, ARowThatHeldTheVariableShowsItsValueAgain) {
-  extra_.Add_Extra_Udons("Fill (ml);1;0;9");
-  extra_.Add_Extra_Udons("Rack;TRAY");
+  extra_.Add_Extra_Udons(VariableDefinition("Fill (ml);1;0;9"));
+  extra_.Add_Extra_Udons(VariableDefinition("Rack;TRAY"));
   grid_.setValue(1, Volume, "Fill");
   grid_.setValue(1, Source, "Rack");
   grid_.setValue(1, Mode, "Fill");  // a text that is not this variable: the row has another unit
-  extra_.Delete_Extra_Udons("Fill (ml);1;0;9");
-  extra_.Delete_Extra_Udons("Rack;TRAY");
+  extra_.Delete_Extra_Udons(VariableDefinition("Fill (ml);1;0;9"));
+  extra_.Delete_Extra_Udons(VariableDefinition("Rack;TRAY"));
   EXPECT_THAT(values(), ElementsAre("5", "Tray2", "Fill", "3"));
   EXPECT_EQ(grid_.cellText(0, Volume), "Volume(ml)");
   EXPECT_EQ(grid_.cellText(0, Source), "Source");
@@ -173,7 +165,7 @@ TEST_F(ExtraValuesTest, ARowThatHeldTheVariableShowsItsValueAgain) {
 }
 
 TEST_F(ExtraValuesTest, ARefilledGridIsOfferedAllVariablesInTheirOrder) {
-  variables_.assign({"Fill (ml);1;0;9", "  ", "Rack;TRAY", "Rest (ml);1;0;9"});
+  setVariables({"Fill (ml);1;0;9", "  ", "Rack;TRAY", "Rest (ml);1;0;9"});
   extra_.Update_Extra_Params();
   EXPECT_THAT(extraValues(), ElementsAre("Fill;Rest", "Rack", "", ""));
   EXPECT_THAT(errors_.reports, IsEmpty());
@@ -181,26 +173,34 @@ TEST_F(ExtraValuesTest, ARefilledGridIsOfferedAllVariablesInTheirOrder) {
 
 TEST_F(ExtraValuesTest, AVariableThatCannotBeOfferedIsToldOfAndTheOthersAreOffered) {
   grid_.brokenRow = Source;
-  variables_.assign({"Rack;TRAY", "Fill (ml);1;0;9", "Shelf;TRAY", "Rounds ();3;1;12"});
+  setVariables({"Rack;TRAY", "Fill (ml);1;0;9", "Shelf;TRAY", "Rounds ();3;1;12"});
   extra_.Update_Extra_Params();
   EXPECT_THAT(errors_.procedures(), ElementsAre("Add_Extra_Udons", "Add_Extra_Udons")) << "Rack and Shelf";
   EXPECT_EQ(errors_.reports.front().number, 77);
   EXPECT_THAT(extraValues(), ElementsAre("Fill", "Rack;Shelf", "Rounds", ""));
 }
 
-TEST_F(ExtraValuesTest, AnEntryThatCannotBeReadEndsTheWalk) {
-  variables_.assign({"Fill (ml);1;0;9", "Rack;TRAY", "Rest (ml);1;0;9"});
-  variables_.brokenItem = 1;
+TEST_F(ExtraValuesTest, RowsFollowTheVariablesAsTheyAreNowAndKeepTheirValues) {
+  setVariables({"Fill (ml);1;0;9", "Rack;TRAY", "Site (TRAY);1;0;9"});
   extra_.Update_Extra_Params();
-  EXPECT_THAT(errors_.procedures(), ElementsAre("Update_Extra_Params"));
-  EXPECT_EQ(errors_.reports.front().number, 78);
-  EXPECT_THAT(extraValues(), ElementsAre("Fill", "", "", "")) << "those before it are offered";
+  grid_.setValue(1, Volume, "Fill");
+  grid_.setValue(1, Source, "Rack");
+  setVariables({"Shelf;TRAY", "Rest (ml);1;0;9"});
+  extra_.followVariables();
+  EXPECT_THAT(extraValues(), ElementsAre("Rest", "Shelf", "", ""));
+  EXPECT_THAT(pickList(Source), ElementsAre("Tray1", "Tray2", "Shelf"));
+  EXPECT_THAT(pickList(Place), IsEmpty());
+  EXPECT_THAT(values(), ElementsAre("Fill", "Rack", "fast", "3"));
+  setVariables({});
+  extra_.followVariables();
+  EXPECT_EQ(items(Source), "Tray1;Tray2");
+  EXPECT_THAT(extraValues(), ElementsAre("", "", "", ""));
 }
 
 TEST_F(ExtraValuesTest, RowsBeyondTheTableAreLeftAlone) {
   grid_.InsertRow("Late", "1", true);
-  extra_.Add_Extra_Udons("Fill (ml);1;0;9");
-  extra_.Delete_Extra_Udons("Fill (ml);1;0;9");
+  extra_.Add_Extra_Udons(VariableDefinition("Fill (ml);1;0;9"));
+  extra_.Delete_Extra_Udons(VariableDefinition("Fill (ml);1;0;9"));
   EXPECT_THAT(errors_.reports, IsEmpty());
 }
 

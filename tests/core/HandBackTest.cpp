@@ -223,10 +223,54 @@ TEST_F(HandBackTest, ResettingTheCycleLeavesScreenAndBaseline) {
 
 TEST_F(HandBackTest, ACycleThatCannotBeWrittenIsHandedBackEmpty) {
   load(version03());
-  editor_.control().atoms().Item(1).setAtomName("R&D");
+  editor_.control().document().perform(edits::replaceLine(0, {"R&D", {}}));
   EXPECT_FALSE(changed()) << "nothing is written that could differ";
   EXPECT_EQ(retrieve(), "");
+  ASSERT_EQ(editor_.errors.size(), 1U) << "told by whoever found it first";
+  EXPECT_EQ(editor_.errors.front().lngError, mavCycEdErrorInvalidXML);
+  EXPECT_EQ(editor_.errors.front().strProcedure, "CycleChanged ");
+  EXPECT_THAT(editor_.errors.front().strError, ::testing::HasSubstr("the atom name \"R&D\" in line 1"));
+}
+
+TEST_F(HandBackTest, ASpoiledCycleIsToldOnceForEachStateOfIt) {
+  load(version03());
+  CycleDocument& document = editor_.control().document();
+  document.perform(edits::replaceLine(0, {"A", ParameterText("Amount;<")}));
+  retrieve();
+  retrieve();
+  changed();
+  ASSERT_EQ(editor_.errors.size(), 1U);
+  EXPECT_EQ(editor_.errors.front().strProcedure, "RetrieveCycle ");
+  EXPECT_THAT(editor_.errors.front().strError,
+              ::testing::HasSubstr("the value \"<\" of the parameter \"Amount\" in line 1"));
+  document.perform(edits::insertVariable(0, VariableDefinition("a&b;T")));
+  document.perform(edits::replaceLine(0, {"A", {}}));
+  changed();
+  ASSERT_EQ(editor_.errors.size(), 2U);
+  EXPECT_THAT(editor_.errors.back().strError, ::testing::HasSubstr("the variable \"a&b;T\""));
+  editor_.control().Undo();
+  changed();
+  editor_.control().Redo();
+  changed();
+  EXPECT_EQ(editor_.errors.size(), 3U) << "the state in between is another one, and the last one was told";
+}
+
+TEST_F(HandBackTest, AnEmptySequenceAndAVersionThatIsNoNumberAreNoSpoiledCycles) {
+  load(version03());
+  editor_.select(0);
+  editor_.remove();
+  EXPECT_EQ(retrieve(), "");
   EXPECT_THAT(editor_.errors, IsEmpty());
+}
+
+TEST_F(HandBackTest, TheTimeOfCreationOutlivesAnEmptyHandBack) {
+  load(version03());
+  editor_.select(0);
+  editor_.remove();
+  EXPECT_EQ(retrieve(), "");
+  editor_.choose("A");
+  editor_.insert();
+  EXPECT_EQ(attributeOf(retrieve(), "Created"), "2001-01-01T01:01:01");
 }
 
 TEST(HandBackCodePage, ComparesInTheSystemsCodePage) {

@@ -328,7 +328,7 @@ TEST(MemoryTextBox, OfOneLineTakesNoLineEndsFromItsUser) {
 TEST(MemoryTextBox, OnlyTheUserRaisesChange) {
   MemoryTextBox box(nullptr);
   std::vector<std::string> changes;
-  box.setEvents({.Change = [&] { changes.push_back(box.text()); }});
+  box.setEvents({.Change = [&] { changes.push_back(box.text()); }, .LostFocus = {}});
   box.setText("code");
   box.replace("user");
   box.replace("user");

@@ -136,13 +136,26 @@ struct SpoiltScreen : memory::MemoryScreen {
 
   ControlScreen spoiltControls() {
     const ControlScreen made = controls();
-    return {made.fraCyclePart,     made.fraDescription,  made.txtCycleDescription,
-            made.fraAtom,          made.lstAtomSequence, made.cmdInset,
-            made.cmdReplace,       made.cmdDelete,       made.fraVariables,
-            made.lstVariables,     made.cmdIns,          made.cmdDel,
-            made.fraSelectedMacro, made.cboAtom,         spoiltGrid,
-            made.cmdDefault,       made.mnuSubParam,     spoiltTimer,
-            made.variableDialogs};
+    return {.fraCyclePart = made.fraCyclePart,
+            .fraDescription = made.fraDescription,
+            .txtCycleDescription = made.txtCycleDescription,
+            .fraAtom = made.fraAtom,
+            .lstAtomSequence = made.lstAtomSequence,
+            .cmdInset = made.cmdInset,
+            .cmdReplace = made.cmdReplace,
+            .cmdDelete = made.cmdDelete,
+            .fraVariables = made.fraVariables,
+            .lstVariables = made.lstVariables,
+            .cmdIns = made.cmdIns,
+            .cmdDel = made.cmdDel,
+            .fraSelectedMacro = made.fraSelectedMacro,
+            .cboAtom = made.cboAtom,
+            .GrdAtom = spoiltGrid,
+            .cmdDefault = made.cmdDefault,
+            .mnuSubParam = made.mnuSubParam,
+            .tmrUpdateGrid = spoiltTimer,
+            .tmrTypingPause = made.tmrTypingPause,
+            .variableDialogs = made.variableDialogs};
   }
 };
 

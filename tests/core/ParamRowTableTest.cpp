@@ -1,4 +1,4 @@
-#include "paramgrid/ParamRowTable.h"
+#include "rules/ParamRowTable.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "paramgrid/ParameterDefinition.h"
+#include "rules/ParameterDefinition.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,10 @@
-#include "cycle/SequenceDisplay.h"
+#include "panels/SequenceDisplay.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -16,9 +18,9 @@ using ::testing::IsEmpty;
 
 class SequenceDisplayTest : public ::testing::Test {
  protected:
-  void add(const std::string& name) { atoms_.Add(name, "", "", std::string()); }
+  void add(const std::string& name) { cycle_.lines.push_back({name, {}}); }
   std::vector<std::string> rebuilt(const std::vector<std::string>& names) {
-    atoms_.Clear();
+    cycle_.lines.clear();
     for (const std::string& name : names) add(name);
     display_.rebuild();
     return lines();
@@ -29,8 +31,8 @@ class SequenceDisplayTest : public ::testing::Test {
     return texts;
   }
 
-  cAtoms atoms_;
-  SequenceDisplay display_{atoms_};
+  Cycle cycle_;
+  SequenceDisplay display_{cycle_};
 };
 
 TEST_F(SequenceDisplayTest, ALineHasNumberIndentAndName) {
@@ -85,39 +87,35 @@ TEST_F(SequenceDisplayTest, AnAppendedLineStandsAtTheCurrentIndent) {
 
 TEST_F(SequenceDisplayTest, AReplacedLineStandsAtTheMarginUntilTheNextRebuild) {
   rebuilt({"REPEAT", "A", "END", "B"});
-  atoms_.Item(2).setAtomName("REPEAT");
+  cycle_.lines[1].name = "REPEAT";
   display_.replace(1);
   EXPECT_THAT(lines(), ElementsAre("01 REPEAT", "02 REPEAT", "03 END", "04 B"));
   add("C");
   display_.append();
   EXPECT_EQ(lines().back(), "05 C") << "the current indent is the one before the replacement";
-  atoms_.Remove(5);
-  display_.rebuildWithout(4, "C");
+  cycle_.lines.pop_back();
+  display_.rebuildAround(4, 1, 0);
   EXPECT_THAT(lines(), ElementsAre("01 REPEAT", "02    REPEAT", "03    END", "04    B"));
 }
 
 // Whatever is put in or taken out: the lines are those of a rebuild from the first line on.
-TEST_F(SequenceDisplayTest, AChangeOfOneLineLeavesWhatARebuildWould) {
+TEST_F(SequenceDisplayTest, AChangeOfSomeLinesLeavesWhatARebuildWould) {
   const std::vector<std::string> names{"A", "REPEAT", "END"};
-  SequenceDisplay whole(atoms_);
+  SequenceDisplay whole(cycle_);
   std::uint32_t random = 1;
-  const auto upTo = [&random](int most) {
+  const auto upTo = [&random](std::size_t most) {
     random = random * 1664525U + 1013904223U;
-    return static_cast<int>((random >> 8U) % static_cast<std::uint32_t>(most + 1));
+    return (random >> 8U) % (most + 1);
   };
   for (int step = 0; step < 2000; ++step) {
-    if (atoms_.Count() > 0 && upTo(2) == 0) {
-      const int at = upTo(atoms_.Count() - 1);
-      const std::string name = atoms_.Item(at + 1).AtomName();
-      atoms_.Remove(at + 1);
-      display_.rebuildWithout(at, name);
-    } else {
-      const int at = upTo(atoms_.Count());
-      add({});
-      for (int i = atoms_.Count(); i > at + 1; --i) atoms_.Item(i).takeNameAndParameters(atoms_.Item(i - 1));
-      atoms_.Item(at + 1).setAtomName(names[static_cast<std::size_t>(upTo(2))]);
-      display_.rebuildWith(at);
-    }
+    auto& lines = cycle_.lines;
+    const std::size_t at = upTo(lines.size());
+    const std::size_t removed = upTo(std::min<std::size_t>(lines.size() - at, 2));
+    const std::size_t added = upTo(lines.size() < 50 ? 2 : 0);
+    const auto begin = lines.begin() + static_cast<std::ptrdiff_t>(at);
+    auto place = lines.erase(begin, begin + static_cast<std::ptrdiff_t>(removed));
+    for (std::size_t i = 0; i < added; ++i) place = lines.insert(place, {names[upTo(2)], {}});
+    display_.rebuildAround(at, removed, added);
     whole.rebuild();
     ASSERT_EQ(display_.count(), whole.count());
     for (int i = 0; i < whole.count(); ++i) ASSERT_EQ(display_.text(i), whole.text(i)) << "after step " << step;

@@ -1,4 +1,4 @@
-#include "paramgrid/ValueValidation.h"
+#include "panels/ValueValidation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

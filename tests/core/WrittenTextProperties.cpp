@@ -7,7 +7,6 @@
 
 #include "TestPlatform.h"
 #include "cycle/CycleXml.h"
-#include "memory/MemoryListBox.h"
 
 namespace mavCycEd::test {
 namespace {
@@ -43,20 +42,21 @@ std::string throughADocument(const CycleContent& content) {
 }
 
 RC_GTEST_PROP(WrittenCycle, ReadsAsIfItCameFromADocument, ()) {
-  cAtoms atoms;
+  Cycle cycle;
   for (int i = *rc::gen::inRange(0, 4); i > 0; --i) {
     const std::string name = *oddText();
-    atoms.Add(name, "", "", *oddText());
+    cycle.lines.push_back({name, ParameterText(*oddText())});
   }
-  memory::MemoryItemListBox variables(nullptr);
-  variables.assign(*rc::gen::container<std::vector<std::string>>(oddText()));
+  for (const std::string& variable : *rc::gen::container<std::vector<std::string>>(oddText())) {
+    cycle.variables.emplace_back(variable);
+  }
   const std::string description = "//" + *oddText();
   CycleFacts facts{.version = *rc::gen::element<std::string>("02", "03"), .created = {}, .modified = {}};
   if (facts.version == "03") {
     facts.created = *rc::gen::element<std::string>("2024-03-09T14:05:00", "", "any text", "a\"b<&>\n");
     facts.modified = *rc::gen::element<std::string>("2024-03-09T14:05:01", "2001");
   }
-  const CycleContent content{atoms, variables, description, facts};
+  const CycleContent content{cycle, description, facts};
   const std::optional<std::string> xml = plainCycleXml(content);
   RC_CLASSIFY(xml.has_value());
   if (xml) RC_ASSERT(*xml == throughADocument(content));
@@ -64,12 +64,11 @@ RC_GTEST_PROP(WrittenCycle, ReadsAsIfItCameFromADocument, ()) {
 
 // The first ones must not need a document, or the rule above says nothing.
 TEST(WrittenCycle, NeedsNoDocumentForOrdinaryTexts) {
-  cAtoms atoms;
-  atoms.Add("Größe > 1", "", "", std::string("VOLUME;10;20\rµl;SYR.1 [a]\rEMPTY;\rNAME"));
-  memory::MemoryItemListBox variables(nullptr);
-  variables.assign({"Vol (µl);10;0;100", "  ", " Rack;TRAY"});
+  Cycle cycle;
+  cycle.lines = {{"Größe > 1", ParameterText("VOLUME;10;20\rµl;SYR.1 [a]\rEMPTY;\rNAME")}};
+  for (const char* variable : {"Vol (µl);10;0;100", "  ", " Rack;TRAY"}) cycle.variables.emplace_back(variable);
   const CycleFacts facts{.version = "03", .created = "2024-03-09T14:05:00", .modified = "2024-03-09T14:05:00"};
-  const CycleContent content{atoms, variables, "//a<b & c\r\nd", facts};
+  const CycleContent content{cycle, "//a<b & c\r\nd", facts};
   const std::optional<std::string> xml = plainCycleXml(content);
   ASSERT_TRUE(xml.has_value());
   EXPECT_EQ(*xml, throughADocument(content));

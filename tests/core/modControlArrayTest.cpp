@@ -1,4 +1,4 @@
-#include "paramgrid/modControlArray.h"
+#include "panels/modControlArray.h"
 
 #include <gtest/gtest.h>
 

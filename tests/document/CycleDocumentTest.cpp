@@ -32,7 +32,9 @@ class CycleDocumentTest : public ::testing::Test {
   }
   ~CycleDocumentTest() override { document_.removeListener(listener_); }
 
-  void insert(std::size_t at, const std::string& name) { document_.perform(edits::insertLines(at, {line(name)}), "Insert"); }
+  void insert(std::size_t at, const std::string& name) {
+    document_.perform(edits::insertLines(at, {line(name)}), "Insert");
+  }
   void type(const std::string& text) {
     const Transaction stretch(document_, "Typing", {}, Transaction::Kind::Stretch);
     document_.perform(edits::changeDescription(document_.cycle().description, text));

@@ -35,7 +35,8 @@ CycleEdit anyEdit(const Cycle& cycle) {
     case 4: return edits::setPlace(upTo(5), {});
     case 5: return edits::insertVariable(variable, VariableDefinition(*shortText()));
     case 6: return CycleEdit(VariableSplice{variable, std::min<std::size_t>(cycle.variables.size() - variable, 1), {}});
-    default: return edits::changeDescription(cycle.description, *rc::gen::container<std::string>(rc::gen::inRange('a', 'd')));
+    default:
+      return edits::changeDescription(cycle.description, *rc::gen::container<std::string>(rc::gen::inRange('a', 'd')));
   }
 }
 
@@ -65,7 +66,8 @@ void performAny(CycleDocument& document) {
     document.perform(anyEdit(document.cycle()), *shortText());
     return;
   }
-  const auto kind = *rc::gen::element(CycleDocument::Transaction::Kind::Step, CycleDocument::Transaction::Kind::Stretch);
+  const auto kind =
+      *rc::gen::element(CycleDocument::Transaction::Kind::Step, CycleDocument::Transaction::Kind::Stretch);
   const CycleDocument::Transaction step(document, "several", {}, kind);
   for (std::size_t i = upTo(4); i > 0; --i) document.perform(anyEdit(document.cycle()));
 }

@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <QTest>
 
-#include "paramgrid/modControlArray.h"
+#include "panels/modControlArray.h"
 #include "platform/RunTimeError.h"
 #include "qt/QtPopupMenu.h"
 

@@ -15,7 +15,7 @@ template <typename Box>
 class AnyTextBox : public testing::Test {
  protected:
   AnyTextBox() {
-    box.setEvents({.Change = [this] { ++changes; }});
+    box.setEvents({.Change = [this] { ++changes; }, .LostFocus = {}});
     window.show();
     box.widget()->setFocus();
   }
@@ -134,11 +134,13 @@ TEST_F(TextBoxOfOneLine, KeepsWhatIsSetUntilItIsEdited) {
 }
 
 TEST_F(TextBoxOfOneLine, HandlerMayWriteTheTextBack) {
-  box.setEvents({.Change = [this] {
-    ++changes;
-    box.setText("ab");
-    box.focusAndSelectAll();
-  }});
+  box.setEvents({.Change =
+                     [this] {
+                       ++changes;
+                       box.setText("ab");
+                       box.focusAndSelectAll();
+                     },
+                 .LostFocus = {}});
   QTest::keyClicks(box.widget(), "-");
   EXPECT_EQ(box.text(), "ab");
   EXPECT_EQ(changes, 1);

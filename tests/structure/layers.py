@@ -12,22 +12,32 @@ import tempfile
 from typing import NamedTuple
 
 # What each room may include besides itself. A room that is missing here may include nothing and is reported.
-CORE = ("platform", "text", "catalogue", "cycle", "paramgrid", "editing", "control")
+BELOW_PANELS = ("platform", "text", "document", "catalogue", "rules", "cycle")
+CORE = (*BELOW_PANELS, "paramgrid", "panels", "control")
 ROOMS = {
     "platform": (),
     "text": ("platform",),
+    "document": ("platform", "text"),
     "kit": ("platform", "text"),
     "catalogue": ("platform", "text"),
-    "cycle": ("platform", "text", "catalogue", "paramgrid"),
-    "paramgrid": ("platform", "text", "catalogue"),
-    "editing": ("platform", "text", "catalogue", "cycle", "paramgrid"),
-    "control": ("platform", "text", "catalogue", "cycle", "paramgrid", "editing"),
+    "rules": ("platform", "text", "document", "catalogue"),
+    "cycle": ("platform", "text", "document", "catalogue", "rules"),
+    "panels": BELOW_PANELS,
+    "control": (*BELOW_PANELS, "panels"),
+    "paramgrid": ("text",),
     "libxml2": ("platform", "text"),
     "memory": (*CORE, "kit"),
     "qt": (*CORE, "kit", "libxml2"),
     "win32": (*CORE, "kit"),
     "com": (*CORE, "kit", "libxml2", "win32"),
 }
+
+# The headers of the public folder include/mavCycEd, by the room that each belongs to.
+PUBLIC_FOLDER = pathlib.PurePath("include/mavCycEd")
+PUBLIC_HEADERS = {
+    "document": ("Cycle.h", "CycleDocument.h", "CycleEdit.h", "ParameterText.h", "VariableDefinition.h"),
+}
+ROOM_OF_PUBLIC_HEADER = {header: room for room, headers in PUBLIC_HEADERS.items() for header in headers}
 
 # Single headers behind which the rest of their room stays hidden from other rooms.
 ONLY_HEADER_FOR_ROOMS = {"libxml2": "libxml2/Libxml2DocumentFactory.h"}
@@ -75,7 +85,7 @@ class Check:
         self.rooms = {}  # room -> room -> the first include that leads there, as "file:line"
 
     def run(self):
-        for folder in ("src", "apps", "tests", "bench", "fuzz", "examples"):
+        for folder in ("include", "src", "apps", "tests", "bench", "fuzz", "examples"):
             for file in sorted((self.tree / folder).rglob("*")):
                 if file.suffix in (".h", ".cpp") and file.is_file():
                     self.check_file(file)
@@ -94,7 +104,9 @@ class Check:
         self.problems.append(f"{place}: {problem}; {remedy}")
 
     def room_of(self, file):
-        """The room that a file of src/ belongs to; None for all other files."""
+        """The room that a file of src/ or a public header belongs to; None for all other files."""
+        if file.parent == self.tree / PUBLIC_FOLDER:
+            return ROOM_OF_PUBLIC_HEADER.get(file.name, file.name)
         if self.source_folder not in file.parents:
             return None
         return file.relative_to(self.source_folder).parts[0]
@@ -104,7 +116,8 @@ class Check:
         self.files[file] = []
         if room is not None and room not in ROOMS:
             self.report(self.place(file, 1), f'the room "{room}" is unknown',
-                        "add it with what it may include to ROOMS in tests/structure/layers.py")
+                        "add it with what it may include to ROOMS in tests/structure/layers.py, or a public header to "
+                        "PUBLIC_HEADERS")
         for include in includes_of(file):
             target = self.own_file(file, include)
             place = self.place(file, include.line)
@@ -119,7 +132,8 @@ class Check:
         """The file of this tree that an include names; None if it names none."""
         folders = self.public_folders
         if include.quoted:
-            folders = [file.parent, self.source_folder, *folders, self.tree / "apps", self.tree / "tests", self.tree]
+            folders = [file.parent, self.source_folder, self.tree / "include", *folders, self.tree / "apps",
+                       self.tree / "tests", self.tree]
         for folder in folders:
             candidate = (folder / include.name).resolve()
             if candidate.is_file() and self.tree in candidate.parents:
@@ -134,7 +148,8 @@ class Check:
         if other == room:
             return
         self.rooms.setdefault(room, {}).setdefault(other, place)
-        name = str(target.relative_to(self.source_folder))
+        is_public = target.parent == self.tree / PUBLIC_FOLDER
+        name = str(target.relative_to(self.tree / "include" if is_public else self.source_folder))
         if other not in ROOMS.get(room, ()):
             allowed = ", ".join(ROOMS.get(room, ())) or "no other room"
             self.report(place, f'the room "{room}" may not include "{name}"',

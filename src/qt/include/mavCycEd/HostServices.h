@@ -23,6 +23,8 @@ struct HostServices {
   /// The timer that selects the grid's first row half a second after the grid was refilled. The control's own one gives
   /// way to an operator who works in the grid by then: it switches itself off.
   std::shared_ptr<platform::Timer> gridTimer = nullptr;
+  /// The timer that ends a stretch of typing in the description, which is one step to undo, after a second's pause.
+  std::shared_ptr<platform::Timer> typingTimer = nullptr;
 };
 
 }  // namespace mavCycEd

@@ -1,0 +1,87 @@
+#include "panels/CycleView.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace mavCycEd {
+
+CycleView::CycleView(CycleState& cycle, const CycleScreen& screen, ExtraValues& extraValues, ErrorSink& errors)
+    : cycle_(cycle), screen_(screen), extraValues_(extraValues), errors_(errors) {
+  cycle_.document.addListener(*this);
+}
+
+CycleView::~CycleView() { cycle_.document.removeListener(*this); }
+
+void CycleView::cycleChanged(const CycleNotice& notice) {
+  if (notice.loaded) {
+    followed_ = -1;
+    showAll();
+    return;
+  }
+  cycle_.changed = true;
+  for (const CycleNotice::Range& range : notice.lines) follow(range);
+  if (!notice.variables.empty()) showVariables(CycleNotice::covering(notice.variables));
+  if (shownByProcedure_ > 0) return;
+  if (notice.description) screen_.txtCycleDescription.setText(cycle_.cycle().description);
+  if (!notice.variables.empty()) extraValues_.followVariables();
+  if (!notice.lines.empty()) {
+    const CycleNotice::Range all = CycleNotice::covering(notice.lines);
+    lstRefresh(all.at, all.removed, all.added);
+  }
+}
+
+// The lines are shown when all of them have been loaded.
+void CycleView::showAll() {
+  screen_.txtCycleDescription.setText(cycle_.cycle().description);
+  std::vector<std::string> entries;
+  entries.reserve(cycle_.cycle().variables.size());
+  for (const VariableDefinition& variable : cycle_.cycle().variables) entries.push_back(variable.text());
+  screen_.lstVariables.assign(std::move(entries));
+  cycle_.display.clear();
+  screen_.lstAtomSequence.clear();
+}
+
+void CycleView::showVariables(const CycleNotice::Range& range) {
+  const auto& variables = cycle_.cycle().variables;
+  const std::size_t common = std::min(range.removed, range.added);
+  for (std::size_t i = range.at; i < range.at + common; ++i) {
+    screen_.lstVariables.setItemText(static_cast<int>(i), variables[i].text());
+  }
+  for (std::size_t i = range.at + range.removed; i > range.at + common; --i) {
+    screen_.lstVariables.removeItem(static_cast<int>(i - 1));
+  }
+  for (std::size_t i = range.at + common; i < range.at + range.added; ++i) {
+    screen_.lstVariables.insertItem(static_cast<int>(i), variables[i].text());
+  }
+}
+
+void CycleView::follow(const CycleNotice::Range& range) {
+  if (followed_ < 0) return;
+  const auto line = static_cast<std::size_t>(followed_);
+  if (line >= range.at + range.removed) {
+    followed_ += static_cast<int>(range.added) - static_cast<int>(range.removed);
+  } else if (line >= range.at) {
+    followed_ = -1;
+  }
+}
+
+void CycleView::lstRefresh(std::size_t at, std::size_t removed, std::size_t added) {
+  guarded(errors_, "lstRefresh", [&] { showLines(at, removed, added); });
+}
+
+void CycleView::showLines(std::size_t at, std::size_t removed, std::size_t added) {
+  platform::LineListBox& list = screen_.lstAtomSequence;
+  const int before = cycle_.display.count();
+  cycle_.display.rebuildAround(at, removed, added);
+  const int moreLines = static_cast<int>(added) - static_cast<int>(removed);
+  const bool listFollows = before > 0 && list.itemCount() == before && cycle_.display.count() == before + moreLines;
+  if (listFollows) {
+    list.spliced(static_cast<int>(at), static_cast<int>(removed), static_cast<int>(added));
+  } else {
+    list.showLines(cycle_.display);
+  }
+}
+
+}  // namespace mavCycEd
