@@ -13,6 +13,7 @@ from typing import NamedTuple
 
 # What each room may include besides itself. A room that is missing here may include nothing and is reported.
 CORE = ("platform", "text", "catalogue", "cycle", "paramgrid", "editing", "control")
+EDITION = (*CORE, "kit")
 ROOMS = {
     "platform": (),
     "text": ("platform",),
@@ -22,10 +23,11 @@ ROOMS = {
     "editing": ("platform", "text", "catalogue", "cycle", "paramgrid"),
     "control": ("platform", "text", "catalogue", "cycle", "paramgrid", "editing"),
     "libxml2": ("platform", "text"),
-    "memory": CORE,
-    "qt": (*CORE, "libxml2"),
-    "win32": CORE,
-    "com": (*CORE, "libxml2", "win32"),
+    "kit": ("platform", "text"),
+    "memory": EDITION,
+    "qt": (*EDITION, "libxml2"),
+    "win32": EDITION,
+    "com": (*EDITION, "libxml2", "win32"),
 }
 
 # Single headers behind which the rest of their room stays hidden from other rooms.
