@@ -4,29 +4,13 @@
 #include <gtest/gtest.h>
 
 #include "TestScreen.h"
+#include "memory/MemoryTimer.h"
 
 namespace mavCycEd::kit {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-class TestClock : public platform::Timer {
- public:
-  void setEvents(platform::TimerEvents events) override { events_ = std::move(events); }
-  int interval() const override { return interval_; }
-  void setInterval(int milliseconds) override { interval_ = milliseconds; }
-  bool isEnabled() const override { return enabled_; }
-  void setEnabled(bool enabled) override { enabled_ = enabled; }
-  void pass() const {
-    if (enabled_) events_.Tick();
-  }
-
- private:
-  platform::TimerEvents events_;
-  int interval_ = 0;
-  bool enabled_ = false;
-};
 
 class FirstRowTimerTest : public ::testing::Test, public test::TestList {
  protected:
@@ -37,7 +21,7 @@ class FirstRowTimerTest : public ::testing::Test, public test::TestList {
     told();
   }
 
-  TestClock* clock_ = new TestClock;
+  memory::MemoryTimer* clock_ = new memory::MemoryTimer;
   std::unique_ptr<FirstRowTimer> timer_ =
       std::make_unique<FirstRowTimer>(std::unique_ptr<platform::Timer>(clock_), *list);
   int ticks_ = 0;
@@ -45,8 +29,8 @@ class FirstRowTimerTest : public ::testing::Test, public test::TestList {
 
 TEST_F(FirstRowTimerTest, TicksForAUserWhoHasNotCome) {
   EXPECT_EQ(clock_->interval(), 500);
-  clock_->pass();
-  clock_->pass();
+  clock_->fire();
+  clock_->fire();
   EXPECT_EQ(ticks_, 2);
   EXPECT_TRUE(timer_->isEnabled());
 }
@@ -79,11 +63,11 @@ TEST_F(FirstRowTimerTest, OpeningAValueOrAskingForTheMenuIsComing) {
 TEST_F(FirstRowTimerTest, ATickThatFallsIntoAnEditIsDroppedAndNotPutOff) {
   list->focusValue(3);  // put before the user by code: nobody has come to a row
   EXPECT_TRUE(timer_->isEnabled());
-  clock_->pass();
+  clock_->fire();
   EXPECT_EQ(ticks_, 0);
   EXPECT_FALSE(timer_->isEnabled());
   list->endEdit();
-  clock_->pass();
+  clock_->fire();
   EXPECT_EQ(ticks_, 0);
   EXPECT_EQ(list->rows().currentRow(), 3);
 }
