@@ -10,7 +10,7 @@ endif()
 install(TARGETS ${installed_targets} EXPORT mavCycEdTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 
 # The public headers name headers of the core: the ports and the atom list provider.
-install(DIRECTORY src/platform src/text src/catalogue src/paramgrid src/cycle src/editing src/control src/kit src/memory
+install(DIRECTORY src/platform src/text src/kit src/catalogue src/paramgrid src/cycle src/editing src/control src/memory
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/mavCycEd/core FILES_MATCHING PATTERN "*.h")
 install(FILES src/libxml2/Libxml2DocumentFactory.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/mavCycEd/core/libxml2)
 

@@ -13,21 +13,20 @@ from typing import NamedTuple
 
 # What each room may include besides itself. A room that is missing here may include nothing and is reported.
 CORE = ("platform", "text", "catalogue", "cycle", "paramgrid", "editing", "control")
-EDITION = (*CORE, "kit")
 ROOMS = {
     "platform": (),
     "text": ("platform",),
+    "kit": ("platform", "text"),
     "catalogue": ("platform", "text"),
     "cycle": ("platform", "text", "catalogue", "paramgrid"),
     "paramgrid": ("platform", "text", "catalogue"),
     "editing": ("platform", "text", "catalogue", "cycle", "paramgrid"),
     "control": ("platform", "text", "catalogue", "cycle", "paramgrid", "editing"),
     "libxml2": ("platform", "text"),
-    "kit": ("platform", "text"),
-    "memory": EDITION,
-    "qt": (*EDITION, "libxml2"),
-    "win32": EDITION,
-    "com": (*EDITION, "libxml2", "win32"),
+    "memory": (*CORE, "kit"),
+    "qt": (*CORE, "kit", "libxml2"),
+    "win32": (*CORE, "kit"),
+    "com": (*CORE, "kit", "libxml2", "win32"),
 }
 
 # Single headers behind which the rest of their room stays hidden from other rooms.
