@@ -11,7 +11,7 @@ install(TARGETS ${installed_targets} EXPORT mavCycEdTargets ARCHIVE DESTINATION 
 
 # The public headers name headers of the core: the ports and the atom list provider.
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(DIRECTORY src/platform src/text src/kit src/catalogue src/paramgrid src/rules src/cycle src/panels src/control
+install(DIRECTORY src/platform src/text src/kit src/catalogue src/rules src/cycle src/panels src/control
   src/memory
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/mavCycEd/core FILES_MATCHING PATTERN "*.h")
 install(FILES src/libxml2/Libxml2DocumentFactory.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/mavCycEd/core/libxml2)

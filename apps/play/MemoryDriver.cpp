@@ -186,7 +186,7 @@ GridView MemoryDriver::grid(std::string_view name) const {
   GridView view;
   view.titles = {control.cellText(0, 0), control.cellText(1, 0)};
   for (int row = 1; row < control.RowCount(); ++row) {
-    const ValueListRows::Entry& entry = *control.rows().entry(row);
+    const kit::ValueListRows::Entry& entry = *control.rows().entry(row);
     view.rows.push_back({entry.key, entry.value, entry.pickList});
   }
   view.row = control.Row();

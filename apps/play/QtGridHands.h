@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "ControlDriver.h"
+#include "kit/GridUnits.h"
 #include "qt/ValueListModel.h"
 
 namespace mavCycEd::play {
@@ -40,27 +41,25 @@ class GridHands {
 
   /// The widget under a position in the grid's own units, and the position in its pixels.
   std::pair<QWidget*, QPoint> at(int x, int y) const {
-    if (y < rowUnits) {
+    const int row = kit::units::rowAt(y);
+    if (row == 0) {
       QHeaderView& titles = *view_.horizontalHeader();
-      return {titles.viewport(), {pixelX(x), pixels(y, titles.height(), rowUnits)}};
+      return {titles.viewport(), {pixelX(x), kit::units::pixelsInRow(y, titles.height())}};
     }
-    const int row = y / rowUnits;
     const int height = view_.verticalHeader()->defaultSectionSize();
-    if (row >= rowCount()) return {view_.viewport(), {pixelX(x), belowRows(y - rowUnits * rowCount())}};
+    if (row >= rowCount()) return {view_.viewport(), {pixelX(x), belowRows(y)}};
     view_.scrollTo(valueCell(row));
-    return {view_.viewport(), {pixelX(x), view_.rowViewportPosition(row - 1) + pixels(y % rowUnits, height, rowUnits)}};
+    return {view_.viewport(), {pixelX(x), view_.rowViewportPosition(row - 1) + kit::units::pixelsInRow(y, height)}};
   }
 
  private:
-  static constexpr int rowUnits = 19;
-  static constexpr int valueColumnBegin = 151;
-
-  // The pixel that lies so many units below the last row. Where there is none, the window is made higher.
-  int belowRows(int units) const {
+  // The pixel of a unit below the last row. Where there is none, the window is made higher.
+  int belowRows(int y) const {
     const int height = view_.verticalHeader()->defaultSectionSize();
     for (int before = -1;;) {
       const int bottom = rowCount() == 1 ? 0 : view_.rowViewportPosition(rowCount() - 2) + height;
-      const int place = bottom + pixels(units, height, rowUnits);
+      const int rowsBetween = kit::units::rowAt(y) - rowCount();
+      const int place = bottom + rowsBetween * height + kit::units::pixelsInRow(y, height);
       const int inView = view_.viewport()->height();
       if (place < inView || inView == std::exchange(before, inView)) return place;
       QWidget& window = *view_.window();
@@ -68,13 +67,10 @@ class GridHands {
     }
   }
 
-  // The first pixel that belongs to a unit.
-  static int pixels(int position, int length, int units) { return (position * length + units - 1) / units; }
   // What lies right of the value column is its last pixel: the grid's own units end nowhere, the view does.
   int pixelX(int x) const {
-    const int keyWidth = view_.columnWidth(qt::ValueListModel::keyColumn);
-    return x < valueColumnBegin ? std::min(pixels(x, keyWidth, valueColumnBegin), keyWidth - 1)
-                                : std::min(keyWidth + x - valueColumnBegin, view_.viewport()->width() - 1);
+    const int pixels = kit::units::pixelsOfX(x, view_.columnWidth(qt::ValueListModel::keyColumn));
+    return std::min(pixels, view_.viewport()->width() - 1);
   }
 
   QTableView& view_;

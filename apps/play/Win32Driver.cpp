@@ -186,12 +186,12 @@ void Win32Driver::chooseInGrid(std::string_view grid, int row, const std::string
   auto& control = controls_.use<Win32ValueList>(grid);
   const Win32GridHands hands(control);
   hands.checkRow(grid, row);
-  const auto& items = control.gridRows().rows.entry(row)->pickList;
+  const auto& items = control.rows().entry(row)->pickList;
   const int index = indexOf(items, "The pick list of row " + std::to_string(row), text);
   hands.goTo(row);
   settle();
   key(control.view().handle(), VK_F2);
-  const HWND editor = control.view().cellEdit().line();
+  const HWND editor = control.view().cellEditor().window();
   if (editor == nullptr) throw StepRefused("Row " + std::to_string(row) + " cannot be edited.");
   pickInList(GetParent(editor), index);
   settle();
@@ -208,7 +208,7 @@ void Win32Driver::editInGrid(std::string_view grid, int row, const std::string& 
   bool first = true;  // the first character opens the editor
   const std::wstring characters = toWide(text);
   for (std::size_t i = 0; i < characters.size(); ++i) {
-    const HWND target = first ? view : control.view().cellEdit().line();
+    const HWND target = first ? view : control.view().cellEditor().window();
     if (target == nullptr) break;
     SendMessageW(target, WM_CHAR, characters[i], 1);
     first = false;
@@ -388,7 +388,7 @@ GridView Win32Driver::grid(std::string_view name) const {
   GridView view;
   view.titles = {control.cellText(0, 0), control.cellText(1, 0)};
   for (int row = 1; row < control.RowCount(); ++row) {
-    const ValueListRows::Entry& entry = *control.gridRows().rows.entry(row);
+    const kit::ValueListRows::Entry& entry = *control.rows().entry(row);
     view.rows.push_back({entry.key, entry.value, entry.pickList});
   }
   view.row = control.Row();

@@ -71,7 +71,7 @@ class Win32GridHands {
 
   /// The pixels of a position in the grid's own units, whose row is brought into view.
   POINT pixelsOf(int x, int y) const {
-    const int row = y / win32::GridGeometry::rowUnits;
+    const int row = kit::units::rowAt(y);
     if (row >= 1 && row < grid_.RowCount()) {
       while (row < view_.geometry().top && scroll(SB_LINEUP)) {
       }

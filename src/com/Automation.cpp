@@ -80,7 +80,7 @@ STDMETHODIMP Automation::Invoke(DISPID member, REFIID reserved, LCID, WORD flags
 STDMETHODIMP Automation::SetConfigXML(BSTR strConfigXml) {
   return explained(entry([&] {
     std::string text = toUtf8(strConfigXml);
-    session_.settledEditor().SetConfigXML(std::move(text));
+    session_.editor().SetConfigXML(std::move(text));
   }));
 }
 
@@ -93,13 +93,12 @@ STDMETHODIMP Automation::SetXMLStrings(BSTR strLatestKam, BSTR strCycle) {
 }
 
 STDMETHODIMP Automation::put_Ignore_Hidden(VARIANT_BOOL booNewValue) {
-  return explained(entry([&] { session_.settledEditor().Ignore_Hidden(booNewValue != VARIANT_FALSE); }));
+  return explained(entry([&] { session_.editor().Ignore_Hidden(booNewValue != VARIANT_FALSE); }));
 }
 
 STDMETHODIMP Automation::get_CycleChanged(VARIANT_BOOL* booChanged) {
   return explained(entry([&] {
     VARIANT_BOOL& result = out(booChanged);
-    // A value that is being typed stays as it is: hosts ask this from timers.
     result = session_.editor().CycleChanged() ? VARIANT_TRUE : VARIANT_FALSE;
   }));
 }
@@ -114,7 +113,7 @@ STDMETHODIMP Automation::RetrieveCycle(BSTR* strCycle) {
 STDMETHODIMP Automation::put_ResetCycle(BSTR strCycle) {
   return explained(entry([&] {
     const std::string text = toUtf8(strCycle);
-    session_.settledEditor().ResetCycle(text);
+    session_.editor().ResetCycle(text);
   }));
 }
 

@@ -18,7 +18,8 @@ class EditorSession {
  public:
   EditorSession(Lifetime& lifetime, Events& events) : lifetime_(lifetime), events_(events) {}
 
-  /// For a call of the host's that only asks.
+  /// For a call of the host's that only asks, maybe from a timer, or sets what is used later: a value that is being
+  /// typed stays as it is.
   EditorControl& editor() { return editorOnScreen().control(); }
   /// For a call of the host's that changes what is shown or takes the cycle: a value that is being typed is finished
   /// first.

@@ -1,99 +1,75 @@
 #include "memory/MemoryValueList.h"
 
-#include <cstddef>
+#include <algorithm>
+#include <memory>
 
-#include "memory/Notify.h"
+#include "kit/GridUnits.h"
 #include "text/LineEnds.h"
 #include "text/Utf8.h"
 
 namespace mavCycEd::memory {
-namespace {
 
-constexpr int valueColumn = 1;
+using kit::ValueListRows;
 
-}  // namespace
-
-void MemoryValueList::setColumnTitle(int column, std::string_view title) {
-  titles_.at(static_cast<std::size_t>(column)) = title;
+MemoryValueList::MemoryValueList(const MemoryFrame* container) : Control(container) {
+  list().setScreen(&screen_, &editor_);
 }
 
-void MemoryValueList::InsertRow(std::string_view key, std::string_view value, bool append) {
-  const int inserted = rows_.insert(key, value, append);
-  if (editedRow_ >= inserted) ++editedRow_;
+MemoryValueList::~MemoryValueList() { list().setScreen(nullptr, nullptr); }
+
+kit::GridHit MemoryValueList::Screen::hitAt(kit::Place place) const {
+  const int row = kit::units::rowAt(place.y);
+  return {.row = row < rows_.rowCount() ? row : -1,
+          .onValue = place.x >= kit::units::valueColumnBegin,
+          .x = place.x,
+          .y = place.y};
 }
 
-void MemoryValueList::DeleteRow(int row) {
-  if (!rows_.isParameterRow(row)) return;
-  rows_.remove(row);
-  if (row == editedRow_) {
-    editedRow_ = 0;
-  } else if (row < editedRow_) {
-    --editedRow_;
-  }
+kit::Place MemoryValueList::Screen::middleOf(int row) const {
+  return {kit::units::valueColumnBegin, kit::units::rowHeight * row + kit::units::rowHeight / 2};
 }
 
-void MemoryValueList::setValue(int column, int row, std::string_view text) {
-  const bool written = rows_.setCell(column, row, text);
-  if (written && column == valueColumn && row == editedRow_) {
-    notify(events_.SetEditText, valueColumn, row, std::string(text));
-  }
+bool MemoryValueList::Editor::openEditor(int) {
+  line_ = {};
+  return wanted_;
 }
 
-std::string MemoryValueList::cellText(int column, int row) const {
-  if (row == 0) return column == 0 || column == 1 ? titles_[static_cast<std::size_t>(column)] : std::string();
-  return rows_.cell(column, row);
+void MemoryValueList::Editor::type(std::string_view character) {
+  line_.text.insert(line_.cursor, character);
+  line_.cursor += character.size();
 }
 
-void MemoryValueList::makeCurrent(int row) {
-  if (!rows_.isParameterRow(row) || row == rows_.currentRow()) return;
-  rows_.setCurrentRow(row);
-  notify(events_.SelectionChange);
-}
-
-void MemoryValueList::changeEditText(const std::string& text) {
-  rows_.setCell(valueColumn, editedRow_, text);
-  notify(events_.SetEditText, valueColumn, editedRow_, text);
+// What the user does next may destroy the list; false when it has.
+bool MemoryValueList::openEditor(int row) {
+  const std::weak_ptr<kit::ValueList> alive = sharedList();
+  list().chooseRow(row);
+  if (alive.expired()) return false;
+  editor_.setWanted(true);
+  list().editCurrentRow();
+  if (alive.expired()) return false;
+  editor_.setWanted(false);
+  return true;
 }
 
 void MemoryValueList::type(int row, std::string_view typed) {
   const std::string line = text::onOneLine(typed);
-  std::string_view text = line;
-  const Lifetime::Watch alive(lifetime_);
-  makeCurrent(row);
-  if (!alive) return;
-  editedRow_ = row;
-  if (text.empty() && !rows_.cell(valueColumn, row).empty()) changeEditText({});
-  bool replacing = true;  // the first keystroke replaces the value, the following ones add to it
-  while (alive && !text.empty() && editedRow_ != 0) {
-    const std::size_t size = text::firstCharacterSize(text);
-    const std::string before = replacing ? std::string() : rows_.cell(valueColumn, editedRow_);
-    changeEditText(before + std::string(text.substr(0, size)));
-    replacing = false;
-    text.remove_prefix(size);
+  const std::weak_ptr<kit::ValueList> alive = sharedList();
+  if (!openEditor(row)) return;
+  const bool clears = line.empty() && !rows().cell(ValueListRows::valueColumn, list().edit().row()).empty();
+  if (clears) list().typedInEditor();
+  for (std::string_view text = line; !text.empty() && !alive.expired() && isEditing();) {
+    const std::string_view character = text.substr(0, text::firstCharacterSize(text));
+    editor_.type(character);
+    list().typedInEditor();
+    text.remove_prefix(character.size());
   }
-  if (!alive) return;
-  const int ended = std::exchange(editedRow_, 0);
-  if (ended == 0) return;
-  notify(events_.EndOfEdit, valueColumn, ended, rows_.cell(0, ended), rows_.cell(valueColumn, ended));
+  if (!alive.expired()) list().endEdit();
 }
 
 void MemoryValueList::pick(int row, std::string_view item) {
-  const Lifetime::Watch alive(lifetime_);
-  makeCurrent(row);
-  if (!alive) return;
-  rows_.setCell(valueColumn, row, item);
-  notify(events_.EndOfEdit, valueColumn, row, rows_.cell(0, row), std::string(item));
+  if (!openEditor(row) || !isEditing()) return;
+  const auto& items = rows().entry(list().edit().row())->pickList;
+  list().pickedInEditor(static_cast<int>(std::ranges::find(items, item) - items.begin()));
 }
-
-void MemoryValueList::pressMouse(platform::MouseButton button, int x, int y) {
-  constexpr int rowHeight = 19;
-  const Lifetime::Watch alive(lifetime_);
-  makeCurrent(y / rowHeight);
-  if (alive) notify(events_.MouseDown, button, x, y);
-}
-
-void MemoryValueList::moveMouse(int x, int y) { notify(events_.MouseMove, x, y); }
-
-void MemoryValueList::requestContextMenu(int x, int y) { notify(events_.ContextPopup, x, y); }
 
 }  // namespace mavCycEd::memory

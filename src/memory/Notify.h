@@ -1,14 +1,12 @@
 #pragma once
 
-#include <functional>
+#include "kit/Notify.h"
 
 namespace mavCycEd::memory {
 
-/// Calls an event handler if there is one. A copy is called: the handler may take the handlers back, or destroy the
-/// control that they belong to.
-template <typename... Arguments, typename... Values>
-void notify(const std::function<void(Arguments...)>& handler, const Values&... values) {
-  if (const auto copy = handler) copy(values...);
+template <typename Handler, typename... Values>
+void notify(const Handler& handler, const Values&... values) {
+  kit::tell(handler, values...);
 }
 
 }  // namespace mavCycEd::memory

@@ -6,7 +6,9 @@
 #include <array>
 #include <utility>
 
+#include "kit/FirstRowTimer.h"
 #include "qt/FocusRules.h"
+#include "qt/QtTimer.h"
 
 namespace mavCycEd::qt {
 namespace {
@@ -38,9 +40,7 @@ EditorScreen::EditorScreen(QWidget& control, std::shared_ptr<platform::Timer> gr
   gate_.setEndEdit([this] { GrdAtom_.endEdit(); });
   mnuSubParam_.setPlace([this] { return GrdAtom_.view()->menuPlace(); });
   if (!tmrUpdateGrid_) {
-    auto timer = std::make_shared<QtTimer>("tmrUpdateGrid");
-    giveWayToOperator(*timer);
-    tmrUpdateGrid_ = std::move(timer);
+    tmrUpdateGrid_ = std::make_shared<kit::FirstRowTimer>(std::make_unique<QtTimer>("tmrUpdateGrid"), GrdAtom_.list());
   }
   if (!tmrTypingPause_) tmrTypingPause_ = std::make_shared<QtTimer>("tmrTypingPause");
   layOut();
@@ -131,17 +131,6 @@ void EditorScreen::layOutSelectedMacro() {
   column->addWidget(cboAtom_.widget());
   column->addWidget(GrdAtom_.widget());
   column->addLayout(buttons);
-}
-
-// The timer makes the first row current for an operator who has not come to the grid yet. The row that they have begun
-// to work in stays theirs; the editor hears of it where the timer would have told which row is current.
-void EditorScreen::giveWayToOperator(QtTimer& timer) {
-  ValueListView* const grid = GrdAtom_.view();
-  QObject::connect(grid, &ValueListView::rowChosen, &timer, [&timer] { timer.setEnabled(false); });
-  QObject::connect(grid, &ValueListView::rowKept, &timer, [grid, &timer] {
-    if (timer.isEnabled()) emit grid->rowChosen();
-  });
-  timer.setDrop([this] { return GrdAtom_.isEditing(); });
 }
 
 // What the mouse does by clicks and double clicks has its keys, each good only in its own list.

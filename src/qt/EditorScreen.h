@@ -12,7 +12,6 @@
 #include "qt/QtListBox.h"
 #include "qt/QtPopupMenu.h"
 #include "qt/QtTextBox.h"
-#include "qt/QtTimer.h"
 #include "qt/QtValueList.h"
 #include "qt/QtVariableDialog.h"
 
@@ -48,7 +47,6 @@ class EditorScreen {
   void layOutSelectedMacro();
   void layOutAtoms();
   void layOutVariables();
-  void giveWayToOperator(QtTimer& timer);
   void connectKeys();
   void setTabOrder();
   void nameForPeople();

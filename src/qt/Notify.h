@@ -1,14 +1,9 @@
 #pragma once
 
-#include <functional>
+#include "kit/Notify.h"
 
 namespace mavCycEd::qt {
 
-/// Tells an owner's handler, if there is one. The handler may take the handlers back and may destroy the control that
-/// raised the event: what is called is a copy, and the caller touches nothing of its own afterwards.
-template <typename... Expected, typename... Given>
-void tell(std::function<void(Expected...)> handler, const Given&... arguments) {
-  if (handler) handler(arguments...);
-}
+using kit::tell;
 
 }  // namespace mavCycEd::qt

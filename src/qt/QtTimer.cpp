@@ -1,12 +1,12 @@
 #include "qt/QtTimer.h"
 
-#include "qt/Notify.h"
+#include "kit/Notify.h"
 
 namespace mavCycEd::qt {
 
 QtTimer::QtTimer(const char* name) {
   setObjectName(QLatin1String(name));
-  connect(&timer_, &QTimer::timeout, this, &QtTimer::onTimeout);
+  connect(&timer_, &QTimer::timeout, this, [this] { kit::tell(events_.Tick); });
 }
 
 void QtTimer::setInterval(int milliseconds) {
@@ -25,14 +25,6 @@ void QtTimer::restart() {
     timer_.start(interval_);
   } else {
     timer_.stop();
-  }
-}
-
-void QtTimer::onTimeout() {
-  if (drop_ && drop_()) {
-    setEnabled(false);
-  } else {
-    tell(events_.Tick);
   }
 }
 

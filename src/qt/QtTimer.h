@@ -2,22 +2,18 @@
 
 #include <QObject>
 #include <QTimer>
-#include <functional>
 #include <utility>
 
 #include "platform/Timer.h"
 
 namespace mavCycEd::qt {
 
-/// A timer. A tick that has lost its purpose can be dropped.
+/// A timer.
 class QtTimer : public QObject, public platform::Timer {
   Q_OBJECT
 
  public:
   explicit QtTimer(const char* name);
-
-  /// A tick that falls while `drop` is true is not told, and the timer is off from then on.
-  void setDrop(std::function<bool()> drop) { drop_ = std::move(drop); }
 
   void setEvents(platform::TimerEvents events) override { events_ = std::move(events); }
   int interval() const override { return interval_; }
@@ -27,10 +23,8 @@ class QtTimer : public QObject, public platform::Timer {
 
  private:
   void restart();
-  void onTimeout();
 
   QTimer timer_;
-  std::function<bool()> drop_;
   platform::TimerEvents events_;
   int interval_ = 0;
   bool enabled_ = false;

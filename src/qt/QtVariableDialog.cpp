@@ -16,7 +16,7 @@ QtVariableDialog::QtVariableDialog(QWidget* owner, HelpDesk& help) : help_(help)
   gate_.setEndEdit([this] { grdParamStnd_.endEdit(); });
   mnuSyrConstant_.setPlace([this] { return grdParamStnd_.view()->menuPlace(); });
   OKButton_.widget()->setDefault(true);
-  grdParamStnd_.view()->setEnterOpens(false);  // Enter is OK
+  grdParamStnd_.list().setEnterOpens(false);  // Enter is OK
   layOut();
   setTabOrder();
   nameForPeople();

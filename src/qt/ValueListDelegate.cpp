@@ -47,7 +47,7 @@ void ValueListDelegate::paintRow(QPainter* painter, const QStyleOptionViewItem& 
 void ValueListDelegate::destroyEditor(QWidget* editor, const QModelIndex& index) const {
   auto* const view = qobject_cast<ValueListView*>(parent());
   if (view != nullptr && editor != nullptr) {
-    view->cellEdit().release(*editor);
+    view->cellEditor().release(*editor);
   } else {
     RowDelegate::destroyEditor(editor, index);
   }

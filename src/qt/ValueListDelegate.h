@@ -5,7 +5,7 @@
 namespace mavCycEd::qt {
 
 /// Draws the cells of a value list, with an arrow where there is a list to pick from, and makes the editors of its
-/// values. What happens in an editor is CellEdit's affair.
+/// values. What happens in an editor is QtCellEditor's affair.
 class ValueListDelegate : public RowDelegate {
   Q_OBJECT
 
@@ -19,7 +19,7 @@ class ValueListDelegate : public RowDelegate {
   void destroyEditor(QWidget* editor, const QModelIndex& index) const override;
   void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const override;
-  /// The text reaches the editor when the edit begins, and by CellEdit.
+  /// The text reaches the editor when the edit begins, and by QtCellEditor.
   void setEditorData(QWidget*, const QModelIndex&) const override {}
   void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
 

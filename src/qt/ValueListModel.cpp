@@ -1,43 +1,45 @@
 #include "qt/ValueListModel.h"
 
 #include <QStringList>
+#include <utility>
 
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
 
-void ValueListModel::setTitle(int column, std::string_view title) {
-  titles_.at(static_cast<std::size_t>(column)) = title;
-  emit headerDataChanged(Qt::Horizontal, column, column);
+ValueListModel::ValueListModel(std::shared_ptr<kit::ValueList> list) : list_(std::move(list)), rows_(list_->rows()) {
+  list_->setObserver(this);
 }
 
-void ValueListModel::insert(std::string_view key, std::string_view value, bool append) {
-  const int at = append ? rowCount() : 0;
-  beginInsertRows({}, at, at);
-  rows_.insert(key, value, append);
+ValueListModel::~ValueListModel() { list_->setObserver(nullptr); }
+
+void ValueListModel::aboutToInsert(int row) {
+  changing_ = true;
+  beginInsertRows({}, row - 1, row - 1);
+}
+
+void ValueListModel::inserted() {
   endInsertRows();
+  changing_ = false;
 }
 
-void ValueListModel::remove(int row) {
-  if (!rows_.isParameterRow(row)) return;
+void ValueListModel::aboutToRemove(int row) {
+  changing_ = true;
   beginRemoveRows({}, row - 1, row - 1);
-  rows_.remove(row);
+}
+
+void ValueListModel::removed() {
   endRemoveRows();
+  changing_ = false;
 }
 
-bool ValueListModel::setCell(int column, int row, std::string_view text) {
-  if (!rows_.setCell(column, row, text)) return false;
-  tellChanged(column, row);
-  return true;
-}
-
-void ValueListModel::setPickList(int row, std::string_view items) {
-  if (rows_.setPickList(row, items)) tellChanged(valueColumn, row);
-}
-
-void ValueListModel::tellChanged(int column, int row) {
-  const QModelIndex changed = cellIndex(column, row);
-  emit dataChanged(changed, changed);
+void ValueListModel::changed(int column, int row) {
+  if (row == 0) {
+    emit headerDataChanged(Qt::Horizontal, column, column);
+  } else {
+    const QModelIndex cell = cellIndex(column, row);
+    emit dataChanged(cell, cell);
+  }
 }
 
 int ValueListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_.rowCount() - 1; }
@@ -45,7 +47,7 @@ int ValueListModel::rowCount(const QModelIndex& parent) const { return parent.is
 int ValueListModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : 2; }
 
 QVariant ValueListModel::data(const QModelIndex& index, int role) const {
-  const ValueListRows::Entry* const entry = index.isValid() ? rows_.entry(rowOf(index)) : nullptr;
+  const kit::ValueListRows::Entry* const entry = index.isValid() ? rows_.entry(rowOf(index)) : nullptr;
   if (entry == nullptr) return {};
   const std::string& text = index.column() == keyColumn ? entry->key : entry->value;
   switch (role) {
@@ -65,7 +67,7 @@ QVariant ValueListModel::data(const QModelIndex& index, int role) const {
 
 QVariant ValueListModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::DisplayRole) return toQt(title(section));
+  if (role == Qt::DisplayRole) return toQt(rows_.cell(section, 0));
   if (role == Qt::TextAlignmentRole) return {Qt::AlignLeft | Qt::AlignVCenter};
   return {};
 }

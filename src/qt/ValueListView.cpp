@@ -11,15 +11,17 @@
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
+#include <utility>
 
+#include "kit/GridUnits.h"
 #include "qt/GridKeys.h"
+#include "qt/Text.h"
 #include "qt/ValueListDelegate.h"
 #include "qt/ValueListModel.h"
 
 namespace mavCycEd::qt {
-namespace {
 
-constexpr int lowestRow = 19;
+kit::Place placeOf(const QPoint& point) { return {point.x(), point.y()}; }
 
 platform::MouseButton named(Qt::MouseButton button) {
   switch (button) {
@@ -29,21 +31,13 @@ platform::MouseButton named(Qt::MouseButton button) {
   }
 }
 
-}  // namespace
-
-ValueListView::CodeChange::CodeChange(ValueListView& view) : view_(view), before_(view.byCode_) {
-  view_.byCode_ = true;
-}
-
-ValueListView::CodeChange::~CodeChange() {
-  view_.showCurrentRow();
-  view_.byCode_ = before_;
-}
-
-ValueListView::ValueListView(ValueListModel* model, QWidget* parent)
-    : QTableView(parent), model_(*model), cellEdit_(new CellEdit(*model, *this)) {
-  model->setParent(this);
-  setModel(model);
+ValueListView::ValueListView(std::shared_ptr<kit::ValueList> list, QWidget* parent)
+    : QTableView(parent),
+      list_(std::move(list)),
+      model_(new ValueListModel(list_)),
+      cellEditor_(new QtCellEditor(list_, *this)) {
+  model_->setParent(this);
+  setModel(model_);
   setItemDelegate(new ValueListDelegate(this));
   setEditTriggers(NoEditTriggers);
   setSelectionMode(SingleSelection);
@@ -56,11 +50,14 @@ ValueListView::ValueListView(ValueListModel* model, QWidget* parent)
   setMouseTracking(true);
   setAttribute(Qt::WA_InputMethodEnabled);
   setUpHeaders();
-  connect(cellEdit_, &CellEdit::left, this, &ValueListView::goOn);
+  list_->setScreen(this, cellEditor_);
 }
 
 // An editor that is still open loses the focus when it is destroyed with the view; nobody is to hear of it.
-ValueListView::~ValueListView() { delete cellEdit_; }
+ValueListView::~ValueListView() {
+  list_->setScreen(nullptr, nullptr);
+  delete cellEditor_;
+}
 
 void ValueListView::setUpHeaders() {
   verticalHeader()->hide();
@@ -68,7 +65,7 @@ void ValueListView::setUpHeaders() {
   QHeaderView& titles = *horizontalHeader();
   titles.setHighlightSections(false);
   titles.setSectionsClickable(false);
-  titles.setMinimumHeight(lowestRow);
+  titles.setMinimumHeight(kit::units::rowHeight);
   titles.viewport()->setMouseTracking(true);
   titles.viewport()->installEventFilter(this);
   connect(&titles, &QHeaderView::sectionResized, this,
@@ -82,7 +79,7 @@ void ValueListView::fitToFont() {
   constexpr int margins = 8;
   constexpr int characters = 4;
   horizontalHeader()->setMinimumSectionSize(fontMetrics().averageCharWidth() * characters);
-  verticalHeader()->setDefaultSectionSize(std::max(lowestRow, fontMetrics().height() + margins));
+  verticalHeader()->setDefaultSectionSize(std::max(kit::units::rowHeight, fontMetrics().height() + margins));
 }
 
 // Both columns are in view, always; a last section that the header stretches would not get narrow again.
@@ -109,7 +106,7 @@ int ValueListView::pageRows() const {
 QSize ValueListView::sizeHint() const {
   constexpr int characters = 36;
   const int wanted = static_cast<int>(horizontalHeader()->sectionSizeHint(0) / keyShare_);
-  const int rows = std::clamp(model_.rowCount() + 2, 5, 10);
+  const int rows = std::clamp(model_->rowCount() + 2, 5, 10);
   return {std::max(fontMetrics().averageCharWidth() * characters, wanted),
           verticalHeader()->defaultSectionSize() * rows};
 }
@@ -122,238 +119,137 @@ QSize ValueListView::minimumSizeHint() const {
 
 void ValueListView::showCurrentRow() {
   markCurrentRow();
-  if (model_.rows().currentRow() == 0) return;
-  scrollTo(model_.cellIndex(ValueListModel::valueColumn, model_.rows().currentRow()));
+  const int row = list_->rows().currentRow();
+  if (row != 0) scrollTo(model_->cellIndex(ValueListModel::valueColumn, row));
 }
 
 // While a value is edited its cell stays the view's current one: another cell would close the editor.
 void ValueListView::markCurrentRow() {
   const QScopedValueRollback quiet(byCode_, true);
-  const int row = model_.rows().currentRow();
+  const int row = list_->rows().currentRow();
   if (row == 0) {
     selectionModel()->clear();
     return;
   }
-  const QModelIndex value = model_.cellIndex(ValueListModel::valueColumn, row);
+  const QModelIndex value = model_->cellIndex(ValueListModel::valueColumn, row);
   const QItemSelectionModel::SelectionFlags whole = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
-  if (cellEdit_->isOpen()) {
+  if (list_->edit().isOpen()) {
     selectionModel()->select(value, whole);
   } else {
     selectionModel()->setCurrentIndex(value, whole);
   }
 }
 
-void ValueListView::chooseRow(int row) {
-  if (!model_.rows().isParameterRow(row)) return;
-  if (row != model_.rows().currentRow()) {
-    makeCurrent(row);
-  } else {
-    emit rowKept();
-  }
-}
-
-void ValueListView::makeCurrent(int row) {
-  model_.setCurrentRow(row);
-  showCurrentRow();
-  emit rowChosen();
-}
-
-void ValueListView::editCurrentRow() {
-  const QPointer<ValueListView> self(this);
-  chooseRow(model_.rows().currentRow());
-  if (self) openEditor();
-}
-
-void ValueListView::openEditor() {
-  const int row = model_.rows().currentRow();
-  if (row == 0) {
-    setFocus();
-    return;
-  }
-  scrollTo(model_.cellIndex(ValueListModel::valueColumn, row));
-  cellEdit_->open(row);
+QWidget* ValueListView::makeEditor(int row) {
+  const QModelIndex value = model_->cellIndex(ValueListModel::valueColumn, row);
+  edit(value);
+  return indexWidget(value);
 }
 
 // A change that neither code nor our own keys made: an assistive technology's.
 void ValueListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
-  if (!byCode_ && current.isValid()) chooseRow(ValueListModel::rowOf(current));
+  if (byCode_ || model_->isChanging() || !current.isValid()) return;
+  std::shared_ptr(list_)->chooseRow(ValueListModel::rowOf(current));
 }
 
-// The parameter row that a key leads to from the current one, 0 when the key leads nowhere.
-int ValueListView::rowBy(int key) const {
-  const int current = model_.rows().currentRow();
-  const int last = model_.rows().rowCount() - 1;
-  switch (key) {
-    case Qt::Key_Up: return current - 1;
-    case Qt::Key_Down: return current + 1;
-    case Qt::Key_PageUp: return std::max(current - pageRows(), 1);
-    case Qt::Key_PageDown: return std::min(current + pageRows(), last);
-    case Qt::Key_Home: return 1;
-    case Qt::Key_End: return last;
-    default: return 0;
+kit::Place ValueListView::placeOfTitle(const QPoint& place) const {
+  return {place.x(), place.y() - horizontalHeader()->height()};  // the titles stand above the cells
+}
+
+kit::GridHit ValueListView::hitAt(kit::Place place) const {
+  const int column = columnViewportPosition(ValueListModel::keyColumn);
+  kit::GridHit hit{.x = kit::units::x(place.x - column, columnWidth(ValueListModel::keyColumn))};
+  if (place.y < 0) {
+    const int height = horizontalHeader()->height();
+    hit.y = kit::units::y(place.y + height, 0, height);
+    return hit;
   }
-}
-
-bool ValueListView::moveBy(int key) {
-  switch (key) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_Home:
-    case Qt::Key_End: chooseRow(rowBy(key)); return true;
-    default: return false;
+  const int at = rowAt(place.y);
+  if (at >= 0) {
+    const QModelIndex cell = indexAt({place.x, place.y});
+    hit.row = at + 1;
+    hit.onValue = cell.isValid() && cell.column() == ValueListModel::valueColumn;
+    hit.onArrow = hit.onValue && ValueListDelegate::arrowRect(visualRect(cell), cell).contains(place.x, place.y);
+    hit.y = kit::units::y(place.y - rowViewportPosition(at), hit.row, rowHeight(at));
+    return hit;
   }
+  const int last = model_->rowCount() - 1;
+  const int bottom = last < 0 ? 0 : rowViewportPosition(last) + rowHeight(last);
+  hit.row = -1;
+  hit.y = kit::units::yBelowRows(place.y - bottom, list_->rows().rowCount(), verticalHeader()->defaultSectionSize());
+  return hit;
 }
 
-bool ValueListView::opensEditor(const QKeyEvent& key) const {
-  return (isPlain(key) && key.key() == Qt::Key_F2) || (enterOpens_ && isEnter(key));
+kit::Place ValueListView::middleOf(int row) const {
+  return placeOf(visualRect(model_->cellIndex(ValueListModel::valueColumn, row)).center());
 }
+
+QPoint ValueListView::menuPlace() const {
+  const kit::Place place = list_->menuPlace();
+  return viewport()->mapToGlobal(QPoint(place.x, place.y));
+}
+
+void ValueListView::copy(std::string_view text) { QGuiApplication::clipboard()->setText(toQt(text)); }
 
 void ValueListView::keyPressEvent(QKeyEvent* event) {
   event->accept();
-  if (isMenuKey(*event)) {
-    askForMenuByKey();
-  } else if (cellEdit_->isOpen()) {  // what the editor does not want is not for the rows either
-    event->ignore();
-  } else if (event->matches(QKeySequence::Copy)) {
-    QGuiApplication::clipboard()->setText(currentIndex().data().toString());
-  } else if (isListKey(*event)) {
-    editCurrentRow();
-    cellEdit_->showList();
-  } else if (opensEditor(*event)) {
-    editCurrentRow();
-  } else if (isPlain(*event) && moveBy(event->key())) {
-    return;
-  } else if (beginsEdit(*event) && model_.rows().currentRow() != 0) {
-    editCurrentRow();
-    cellEdit_->forward(*event);
+  const QPointer<ValueListView> self(this);
+  switch (std::shared_ptr(list_)->pressKey(keyPressOf(*event))) {
+    case kit::ValueList::KeyAnswer::NotTaken: event->ignore(); break;
+    case kit::ValueList::KeyAnswer::Taken: break;
+    case kit::ValueList::KeyAnswer::IntoEditor:
+      if (self) cellEditor_->forward(*event);
+      break;
+  }
+}
+
+// What is composed is a character like any other.
+void ValueListView::inputMethodEvent(QInputMethodEvent* event) {
+  const bool isEmpty = event->commitString().isEmpty() && event->preeditString().isEmpty();
+  const QPointer<ValueListView> self(this);
+  const bool opens = !isEmpty && std::shared_ptr(list_)->pressKey({.key = kit::Key::Character}) ==
+                                     kit::ValueList::KeyAnswer::IntoEditor;
+  if (opens && self) {
+    cellEditor_->forward(*event);
   } else {
     event->ignore();
   }
 }
 
-void ValueListView::inputMethodEvent(QInputMethodEvent* event) {
-  const bool empty = event->commitString().isEmpty() && event->preeditString().isEmpty();
-  if (empty || cellEdit_->isOpen() || model_.rows().currentRow() == 0) {
-    event->ignore();
-    return;
-  }
-  editCurrentRow();
-  cellEdit_->forward(*event);
-}
-
 // The keys of the grid are the grid's, also where the host has given them a meaning of its own.
 bool ValueListView::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (isListKey(key) || isMenuKey(key) || beginsEdit(key) || opensEditor(key)) {
-      event->accept();
-      return true;
-    }
+  if (event->type() == QEvent::ShortcutOverride && list_->wantsKey(keyPressOf(static_cast<const QKeyEvent&>(*event)))) {
+    event->accept();
+    return true;
   }
   return QTableView::event(event);
 }
 
-// Where an ended edit leads.
-void ValueListView::goOn(int row, CellEdit::Step step) {
-  using Step = CellEdit::Step;
-  const int last = model_.rows().rowCount() - 1;
-  int target = 0;
-  switch (step) {
-    case Step::NextCell:
-    case Step::NextLine:
-    case Step::Down: target = row + 1; break;
-    case Step::PreviousCell:
-    case Step::Up: target = row - 1; break;
-    case Step::PageDown: target = std::min(row + pageRows(), last); break;
-    case Step::PageUp: target = std::max(row - pageRows(), 1); break;
-  }
-  if (model_.rows().isParameterRow(target)) {
-    const QPointer<ValueListView> self(this);
-    chooseRow(target);
-    if (self) editCurrentRow();
-  } else if (step == Step::NextCell || step == Step::PreviousCell) {
-    focusNextPrevChild(step == Step::NextCell);
-  } else if (step != Step::NextLine) {
-    editCurrentRow();  // at the first or last row an arrow leads nowhere
-  }
-}
-
 void ValueListView::mousePressEvent(QMouseEvent* event) {
   event->accept();
-  const QPoint place = event->position().toPoint();
-  const QPointer<ValueListView> self(this);
-  listWanted_ = false;
-  cellEdit_->end();
-  if (!self) return;
-  const QModelIndex pressed = indexAt(place);
-  if (pressed.isValid()) chooseRow(ValueListModel::rowOf(pressed));
-  if (!self) return;
-  tellPress(event->button(), place);
-  if (!self || event->button() != Qt::LeftButton) return;
-  // What was told may have changed the rows.
-  const QModelIndex value = indexAt(place);
-  if (!value.isValid() || value.column() != ValueListModel::valueColumn || !isEnabled()) return;
-  if (ValueListModel::rowOf(value) != model_.rows().currentRow()) return;
-  editCurrentRow();
-  listWanted_ = ValueListDelegate::arrowRect(visualRect(value), value).contains(place);
+  std::shared_ptr(list_)->pressMouse(named(event->button()), placeOf(event->position().toPoint()));
 }
 
 void ValueListView::mouseMoveEvent(QMouseEvent* event) {
   event->accept();
-  tellMove(event->position().toPoint());
-}
-
-void ValueListView::tellMove(const QPoint& place) {
-  const QPoint units = units_.ofCells(place);
-  emit mouseMoved(units.x(), units.y());
-}
-
-void ValueListView::tellPress(Qt::MouseButton button, const QPoint& place) {
-  const QPoint units = units_.ofCells(place);
-  emit mousePressed(named(button), units.x(), units.y());
+  std::shared_ptr(list_)->moveMouse(placeOf(event->position().toPoint()));
 }
 
 void ValueListView::mouseReleaseEvent(QMouseEvent* event) {
   event->accept();
-  if (event->button() == Qt::LeftButton && std::exchange(listWanted_, false)) cellEdit_->showList();
+  if (event->button() == Qt::LeftButton) list_->releaseMouse();
 }
 
 void ValueListView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
 void ValueListView::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
-  if (event->reason() != QContextMenuEvent::Mouse) {
-    askForMenuByKey();
-    return;
+  if (event->reason() == QContextMenuEvent::Mouse) {
+    std::shared_ptr(list_)->askForMenu(placeOf(event->pos()));
+  } else {
+    std::shared_ptr(list_)->askForMenuByKey();
   }
-  const QPointer<ValueListView> self(this);
-  cellEdit_->end();
-  if (!self) return;
-  const QModelIndex index = indexAt(event->pos());
-  chooseRow(index.isValid() ? ValueListModel::rowOf(index) : model_.rows().currentRow());
-  if (self) askForMenu(units_.ofCells(event->pos()), event->globalPos());
-}
-
-// No press comes before such a request that would tell of the row: it is told in any case.
-void ValueListView::askForMenuByKey() {
-  const QPointer<ValueListView> self(this);
-  const int edited = cellEdit_->row();
-  cellEdit_->end();
-  if (!self) return;
-  const int row = edited != 0 ? edited : model_.rows().currentRow();
-  if (!model_.rows().isParameterRow(row)) return;
-  makeCurrent(row);
-  if (!self) return;
-  const QPoint middle = visualRect(model_.cellIndex(ValueListModel::valueColumn, row)).center();
-  askForMenu(units_.ofCells(middle), viewport()->mapToGlobal(middle));
-}
-
-void ValueListView::askForMenu(const QPoint& units, const QPoint& place) {
-  menuPlace_ = place;
-  emit menuAskedFor(units.x(), units.y());
 }
 
 bool ValueListView::eventFilter(QObject* watched, QEvent* event) {
@@ -364,25 +260,17 @@ bool ValueListView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ValueListView::onTitleEvent(const QEvent& event) {
+  const auto list = list_;
   switch (event.type()) {
     case QEvent::MouseButtonPress: {
       const auto& press = static_cast<const QMouseEvent&>(event);
-      const QPoint units = units_.ofTitles(press.position().toPoint());
-      emit mousePressed(named(press.button()), units.x(), units.y());
+      list->pressMouse(named(press.button()), placeOfTitle(press.position().toPoint()));
       break;
     }
-    case QEvent::MouseMove: {
-      const QPoint units = units_.ofTitles(static_cast<const QMouseEvent&>(event).position().toPoint());
-      emit mouseMoved(units.x(), units.y());
+    case QEvent::MouseMove:
+      list->moveMouse(placeOfTitle(static_cast<const QMouseEvent&>(event).position().toPoint()));
       break;
-    }
-    case QEvent::ContextMenu: {
-      const auto& request = static_cast<const QContextMenuEvent&>(event);
-      const QPointer<ValueListView> self(this);
-      chooseRow(model_.rows().currentRow());
-      if (self) askForMenu(units_.ofTitles(request.pos()), request.globalPos());
-      break;
-    }
+    case QEvent::ContextMenu: list->askForMenu(placeOfTitle(static_cast<const QContextMenuEvent&>(event).pos())); break;
     default: break;
   }
 }

@@ -1,76 +1,44 @@
 #pragma once
 
 #include <QTableView>
+#include <memory>
 
-#include "platform/ValueListActiveX.h"
-#include "qt/CellEdit.h"
-#include "qt/GridUnits.h"
+#include "kit/ValueList.h"
+#include "qt/QtCellEditor.h"
 
 namespace mavCycEd::qt {
 
 class ValueListModel;
 
-/// A value list on the screen: the keys and the mouse of its user. A value is edited in its cell: a click on it, F2,
-/// Enter or simply typing opens the editor; a value that was picked from its list is still being edited, so that the
-/// next key leads on from there.
-class ValueListView : public QTableView {
+/// The names of places and mouse buttons.
+kit::Place placeOf(const QPoint& point);
+platform::MouseButton named(Qt::MouseButton button);
+
+/// A value list on the screen: its looks, and the events of its user's keys and mouse.
+class ValueListView : public QTableView, private kit::ValueListScreen {
   Q_OBJECT
 
  public:
-  /// While one of these lives, what happens to the rows is code's doing and tells nothing; then the view shows the
-  /// current row.
-  class CodeChange {
-   public:
-    explicit CodeChange(ValueListView& view);
-    ~CodeChange();
-    CodeChange(const CodeChange&) = delete;
-    CodeChange& operator=(const CodeChange&) = delete;
-
-   private:
-    ValueListView& view_;
-    bool before_;
-  };
-
-  /// The model becomes the view's own.
-  ValueListView(ValueListModel* model, QWidget* parent);
+  ValueListView(std::shared_ptr<kit::ValueList> list, QWidget* parent);
   ~ValueListView() override;
   ValueListView(const ValueListView&) = delete;
   ValueListView& operator=(const ValueListView&) = delete;
 
-  CellEdit& cellEdit() { return *cellEdit_; }
-  const CellEdit& cellEdit() const { return *cellEdit_; }
+  QtCellEditor& cellEditor() { return *cellEditor_; }
 
-  /// Selects the current row of the rows, and brings it into view.
-  void markCurrentRow();
-  void showCurrentRow();
-  /// The user makes a parameter row current, or works on in the one that is current.
-  void chooseRow(int row);
-  /// Whether Enter opens the editor of the current row's value, as F2 does; it does unless the window has another use
-  /// for the key.
-  void setEnterOpens(bool opens) { enterOpens_ = opens; }
   /// The user opens the editor of the current row's value, if there is a row.
-  void editCurrentRow();
-  /// Opens the editor of the current row's value without a word of the row.
-  void openEditor();
-  /// Closes the editor of an edit; the focus stays in the grid if it was in the editor.
+  void editCurrentRow() { std::shared_ptr(list_)->editCurrentRow(); }
+
+  /// Selects the current row of the rows.
+  void markCurrentRow();
+  /// Puts an editor into the cell of a row's value, and takes it away; the focus stays in the grid if it was in it.
+  QWidget* makeEditor(int row);
   void removeEditor(QWidget* editor) { closeEditor(editor, QAbstractItemDelegate::NoHint); }
-  /// Tells what the mouse does over the cells, or over an editor on them; `place` is in the viewport.
-  void tellMove(const QPoint& place);
-  void tellPress(Qt::MouseButton button, const QPoint& place);
   /// Where the pop-up menu was last asked for, in global coordinates.
-  QPoint menuPlace() const { return menuPlace_; }
+  QPoint menuPlace() const;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
-
- signals:
-  /// The user made another row current, or asked for the menu of the current one by the keyboard.
-  void rowChosen();
-  /// The user goes on to work in the row that was current already.
-  void rowKept();
-  void mousePressed(mavCycEd::platform::MouseButton button, int x, int y);
-  void mouseMoved(int x, int y);
-  void menuAskedFor(int x, int y);
 
  protected:
   bool event(QEvent* event) override;
@@ -88,29 +56,30 @@ class ValueListView : public QTableView {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:
+  void showCurrentRow() override;
+  void announceCurrentRow() override {}
+  kit::GridHit hitAt(kit::Place place) const override;
+  kit::Place middleOf(int row) const override;
+  int pageRows() const override;
+  bool isUsable() const override { return isEnabled(); }
+  bool isFocused() const override { return hasFocus(); }
+  void takeFocus() override { setFocus(); }
+  void passFocus(bool forward) override { focusNextPrevChild(forward); }
+  void copy(std::string_view text) override;
+
   void setUpHeaders();
   void fitToFont();
   void fitColumns();
   void onColumnResized(int column, int width);
-  bool opensEditor(const QKeyEvent& key) const;
-  int rowBy(int key) const;
-  bool moveBy(int key);
-  void goOn(int row, CellEdit::Step step);
   void onTitleEvent(const QEvent& event);
-  void makeCurrent(int row);
-  void askForMenu(const QPoint& units, const QPoint& place);
-  void askForMenuByKey();
-  int pageRows() const;
+  kit::Place placeOfTitle(const QPoint& place) const;
 
-  ValueListModel& model_;
-  CellEdit* cellEdit_;
-  GridUnits units_{*this};
-  QPoint menuPlace_;
+  std::shared_ptr<kit::ValueList> list_;
+  ValueListModel* model_;
+  QtCellEditor* cellEditor_;
   double keyShare_ = 0.55;  // of the key column in the width
-  bool enterOpens_ = true;
   bool byCode_ = false;
-  bool fitting_ = false;     // the widths of the columns are being set
-  bool listWanted_ = false;  // the mouse button went down on an arrow
+  bool fitting_ = false;  // the widths of the columns are being set
 };
 
 }  // namespace mavCycEd::qt

@@ -11,13 +11,6 @@ namespace {
 
 enum Posted { Typed, Picked, Left };
 
-// A value is one line: what a paste brings along of line ends and tabs becomes blanks.
-std::wstring onOneLine(std::wstring text) {
-  const auto breaksLine = [](wchar_t c) { return c < L' ' || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029; };
-  std::ranges::replace_if(text, breaksLine, L' ');
-  return text;
-}
-
 }  // namespace
 
 /// The line to type into: a window of its own, or the one in a combo box.
@@ -109,7 +102,15 @@ CellEditor::CellEditor(HWND grid, const std::vector<std::string>& list, const Fo
 CellEditor::~CellEditor() = default;
 
 HWND CellEditor::line() const { return line_->handle(); }
-std::string CellEditor::text() const { return fromWide(onOneLine(textOf(line()))); }
+std::string CellEditor::text() const { return fromWide(textOf(line())); }
+
+kit::TypedLine CellEditor::typedLine() const {
+  const std::wstring text = textOf(line());
+  DWORD begin = 0;
+  DWORD end = 0;
+  SendMessageW(line(), EM_GETSEL, reinterpret_cast<WPARAM>(&begin), reinterpret_cast<LPARAM>(&end));
+  return {fromWide(text), fromWide(std::wstring_view(text).substr(0, end)).size()};
+}
 
 bool CellEditor::isHalfTyped() const {
   const std::wstring text = textOf(line());
@@ -125,10 +126,13 @@ void CellEditor::noteTyping() {
   line_->noteTyping();
 }
 
-void CellEditor::setText(std::string_view text) {
+void CellEditor::show(const kit::TypedLine& line) {
+  const std::wstring text = toWide(line.text);
+  const std::size_t cursor = toWide(std::string_view(line.text).substr(0, line.cursor)).size();
   settingText_ = true;
-  line_->setLineText(toWide(text));
-  SendMessageW(line(), EM_SETSEL, static_cast<WPARAM>(GetWindowTextLengthW(line())), -1);
+  line_->setLineText(text);
+  SendMessageW(this->line(), EM_SETSEL, cursor, static_cast<LPARAM>(cursor));
+  SendMessageW(this->line(), EM_SCROLLCARET, 0, 0);
   settingText_ = false;
 }
 

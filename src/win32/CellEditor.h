@@ -3,8 +3,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "kit/TypedLine.h"
 #include "win32/NativeWindow.h"
 
 namespace mavCycEd::win32 {
@@ -28,8 +30,11 @@ class CellEditor {
   /// The window that the keys go to.
   HWND line() const;
   std::string text() const;
-  /// Shows a text, the cursor behind it. Raises nothing.
-  void setText(std::string_view text);
+  /// The text and the cursor in it.
+  kit::TypedLine typedLine() const;
+  /// Shows a text, the cursor behind it, or where it is said to be. Raises nothing.
+  void setText(std::string_view text) { show({std::string(text), text.size()}); }
+  void show(const kit::TypedLine& line);
   void place(const RECT& cell);
   void setFocus();
   bool hasFocus() const;

@@ -3,18 +3,16 @@
 #include <array>
 #include <utility>
 
+#include "kit/FirstRowTimer.h"
 #include "win32/Dpi.h"
 #include "win32/Layout.h"
 
 namespace mavCycEd::win32 {
 namespace {
 
-std::shared_ptr<platform::Timer> timerOr(std::shared_ptr<platform::Timer> timer, const Win32ValueList& grid) {
+std::shared_ptr<platform::Timer> timerOr(std::shared_ptr<platform::Timer> timer, Win32ValueList& grid) {
   if (timer) return timer;
-  auto own = std::make_shared<Win32Timer>();
-  // The first row is not for an operator who is at work in another one already.
-  own->setHold([&grid] { return grid.isEditing(); });
-  return own;
+  return std::make_shared<kit::FirstRowTimer>(std::make_unique<Win32Timer>(), grid.list());
 }
 
 }  // namespace

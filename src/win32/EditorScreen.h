@@ -56,7 +56,7 @@ struct EditorControls {
 class EditorScreen {
  public:
   /// `parent`: the window that the editor stands in; nullptr: none yet (see setParent). Without a grid timer the screen
-  /// has its own, which waits while a value is being edited.
+  /// has its own, which gives way to an operator who works in the grid already.
   explicit EditorScreen(HWND parent, std::shared_ptr<platform::Timer> gridTimer = nullptr,
                         std::shared_ptr<platform::Timer> typingTimer = nullptr);
   ~EditorScreen();

@@ -1,19 +1,16 @@
 #pragma once
 
+#include "kit/GridUnits.h"
 #include "win32/Windows.h"
 
 namespace mavCycEd::win32 {
 
-/// Where the rows and columns of a grid stand in its window, and what its pixels are in the grid's own units: 19 units
-/// to a row, the title row first, and the value column from x = 151 on, whatever the fonts and the scaling are.
+/// Where the rows and columns of a grid stand in its window, and what its pixels are in the grid's own units.
 struct GridGeometry {
-  static constexpr int rowUnits = 19;
-  static constexpr int valueColumnBegin = 151;
-
   int width = 0;
   int height = 0;
-  int titleHeight = rowUnits;
-  int rowHeight = rowUnits;
+  int titleHeight = kit::units::rowHeight;
+  int rowHeight = kit::units::rowHeight;
   double keyShare = 0.55;  // of the key column in the width
   int rowCount = 1;        // the title row included
   int top = 1;             // the first row below the title row

@@ -12,6 +12,9 @@
 #include "win32/Text.h"
 
 namespace mavCycEd::win32 {
+
+using kit::ValueListRows;
+
 namespace {
 
 using Theme = std::unique_ptr<std::remove_pointer_t<HTHEME>, decltype(&CloseThemeData)>;
@@ -26,7 +29,7 @@ void line(HDC context, int x1, int y1, int x2, int y2) {
 }  // namespace
 
 RECT GridPainter::arrowOf(const GridGeometry& geometry, int row) {
-  RECT place = geometry.cell(GridRows::valueColumn, row);
+  RECT place = geometry.cell(ValueListRows::valueColumn, row);
   place.left = std::max(place.left, place.right - geometry.rowHeight);
   return place;
 }
@@ -59,7 +62,7 @@ void GridPainter::paint(HDC context) const {
 
 void GridPainter::paintTitles(HDC context) const {
   const Theme theme = openTheme(window_, L"HEADER");
-  for (const int column : {GridRows::keyColumn, GridRows::valueColumn}) {
+  for (const int column : {ValueListRows::keyColumn, ValueListRows::valueColumn}) {
     RECT place = geometry_.cell(column, 0);
     if (theme != nullptr) {
       DrawThemeBackground(theme.get(), context, HP_HEADERITEM, HIS_NORMAL, &place, nullptr);
@@ -67,22 +70,21 @@ void GridPainter::paintTitles(HDC context) const {
       FillRect(context, &place, GetSysColorBrush(COLOR_BTNFACE));
       DrawEdge(context, &place, BDR_RAISEDINNER, BF_RECT);
     }
-    paintText(context, place, rows_.titles[static_cast<std::size_t>(column)],
-              looks_.enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT);
+    paintText(context, place, rows_.cell(column, 0), looks_.enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT);
   }
 }
 
 void GridPainter::paintRow(HDC context, int row) const {
-  const bool isCurrent = row == rows_.rows.currentRow();
+  const bool isCurrent = row == rows_.currentRow();
   const int back = looks_.focused ? COLOR_HIGHLIGHT : COLOR_3DLIGHT;
   int front = isCurrent && looks_.focused ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT;
   if (!looks_.enabled) front = COLOR_GRAYTEXT;
-  RECT whole = geometry_.cell(GridRows::keyColumn, row);
+  RECT whole = geometry_.cell(ValueListRows::keyColumn, row);
   whole.right = geometry_.width;
   if (isCurrent) FillRect(context, &whole, GetSysColorBrush(back));
-  paintText(context, geometry_.cell(GridRows::keyColumn, row), rows_.rows.cell(GridRows::keyColumn, row), front);
-  RECT value = geometry_.cell(GridRows::valueColumn, row);
-  if (rows_.hasList(row)) {
+  paintText(context, geometry_.cell(ValueListRows::keyColumn, row), rows_.cell(ValueListRows::keyColumn, row), front);
+  RECT value = geometry_.cell(ValueListRows::valueColumn, row);
+  if (rows_.hasPickList(row)) {
     RECT arrow = arrowOf(geometry_, row);
     value.right = arrow.left;
     const Theme theme = openTheme(window_, L"COMBOBOX");
@@ -93,7 +95,7 @@ void GridPainter::paintRow(HDC context, int row) const {
       DrawFrameControl(context, &arrow, DFC_SCROLL, DFCS_SCROLLCOMBOBOX | (looks_.enabled ? 0U : DFCS_INACTIVE));
     }
   }
-  paintText(context, value, rows_.rows.cell(GridRows::valueColumn, row), front);
+  paintText(context, value, rows_.cell(ValueListRows::valueColumn, row), front);
   line(context, 0, whole.bottom - 1, geometry_.width, whole.bottom);
   line(context, geometry_.keyWidth() - 1, whole.top, geometry_.keyWidth(), whole.bottom);
 }

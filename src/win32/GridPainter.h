@@ -1,7 +1,7 @@
 #pragma once
 
+#include "kit/ValueListRows.h"
 #include "win32/GridGeometry.h"
-#include "win32/GridRows.h"
 
 namespace mavCycEd::win32 {
 
@@ -18,7 +18,7 @@ class GridPainter {
     int margin = 4;
   };
 
-  GridPainter(HWND window, const GridRows& rows, const GridGeometry& geometry, const Looks& looks)
+  GridPainter(HWND window, const kit::ValueListRows& rows, const GridGeometry& geometry, const Looks& looks)
       : window_(window), rows_(rows), geometry_(geometry), looks_(looks) {}
 
   void paint(HDC context) const;
@@ -32,7 +32,7 @@ class GridPainter {
   void paintText(HDC context, RECT place, const std::string& text, int color) const;
 
   HWND window_;
-  const GridRows& rows_;
+  const kit::ValueListRows& rows_;
   const GridGeometry& geometry_;
   const Looks& looks_;
 };

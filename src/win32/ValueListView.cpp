@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "win32/Dpi.h"
+#include "win32/GridKeys.h"
 #include "win32/GridPainter.h"
 #include "win32/Text.h"
 #include "win32/WindowClass.h"
@@ -13,25 +15,28 @@ namespace {
 
 using platform::MouseButton;
 
-bool isDown(int key) { return GetKeyState(key) < 0; }
-bool isPlain() { return !isDown(VK_CONTROL) && !isDown(VK_MENU) && !isDown(VK_SHIFT); }
-
 POINT placeOf(LPARAM lParam) { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
+kit::Place placeOf(POINT point) { return {point.x, point.y}; }
+POINT pointAt(kit::Place place) { return {place.x, place.y}; }
 
 }  // namespace
 
-ValueListView::ValueListView(GridRows& rows, HWND parent, Win32Frame* frame)
+ValueListView::ValueListView(std::shared_ptr<kit::ValueList> list, HWND parent, Win32Frame* frame)
     : NativeWindow(parent, frame,
                    {ownWindowClass(L"mavCycEd.ValueList", CS_DBLCLKS), WS_TABSTOP | WS_VSCROLL | WS_CLIPCHILDREN,
                     WS_EX_CLIENTEDGE}),
-      rows_(rows),
-      toolTip_(handle()),
-      cellEdit_(std::make_unique<CellEdit>(rows, *this)) {
+      list_(std::move(list)),
+      toolTip_(handle()) {
+  list_->setScreen(this, &cellEditor_);
+  list_->setObserver(this);
   fit();
 }
 
-// An editor that is still open goes first; nobody is to hear of it.
-ValueListView::~ValueListView() { cellEdit_.reset(); }
+// An editor that is still open goes with the view; nobody is to hear of it.
+ValueListView::~ValueListView() {
+  list_->setObserver(nullptr);
+  list_->setScreen(nullptr, nullptr);
+}
 
 platform::Font ValueListView::font() const { return ownFont_.value_or(asFont(systemFont(dpi_), dpi_)); }
 
@@ -53,7 +58,7 @@ void ValueListView::setScreenFont(const FontHandle& font, int dpi) {
 // A row is as high as an editor in it needs.
 void ValueListView::fit() {
   const int needed = TextMeasure(handle(), font_.get()).lineHeight() + scaled(handle(), 8);
-  geometry_.rowHeight = std::max(needed, scaled(handle(), GridGeometry::rowUnits));
+  geometry_.rowHeight = std::max(needed, scaled(handle(), kit::units::rowHeight));
   geometry_.titleHeight = geometry_.rowHeight;
   onSize();
 }
@@ -63,11 +68,11 @@ void ValueListView::onSize() {
   GetClientRect(handle(), &client);
   geometry_.width = client.right;
   geometry_.height = client.bottom;
-  rowsChanged();
+  fitToRows();
 }
 
-void ValueListView::rowsChanged() {
-  geometry_.rowCount = rows_.rows.rowCount();
+void ValueListView::fitToRows() {
+  geometry_.rowCount = rows().rowCount();
   SCROLLINFO scroll{};
   scroll.cbSize = sizeof scroll;
   scroll.fMask = SIF_RANGE | SIF_PAGE;
@@ -89,7 +94,7 @@ void ValueListView::repaint() {
 void ValueListView::scrollTo(int top) {
   geometry_.top = std::clamp(top, 1, std::max(geometry_.rowCount - geometry_.pageRows(), 1));
   SetScrollPos(handle(), SB_VERT, geometry_.top, TRUE);
-  cellEdit_->follow();
+  cellEditor_.follow();
   repaint();
 }
 
@@ -123,9 +128,9 @@ LRESULT ValueListView::onPaint() {
   const HDC memory = CreateCompatibleDC(screen);
   const HBITMAP picture = CreateCompatibleBitmap(screen, std::max(geometry_.width, 1), std::max(geometry_.height, 1));
   const HGDIOBJ before = SelectObject(memory, picture);
-  const bool focused = GetFocus() == handle() || cellEdit_->isOpen();
+  const bool focused = GetFocus() == handle() || list_->edit().isOpen();
   const GridPainter::Looks looks{font_.get(), isEnabledHere(), focused, scaled(handle(), 4)};
-  GridPainter(handle(), rows_, geometry_, looks).paint(memory);
+  GridPainter(handle(), rows(), geometry_, looks).paint(memory);
   BitBlt(screen, 0, 0, geometry_.width, geometry_.height, memory, 0, 0, SRCCOPY);
   SelectObject(memory, before);
   DeleteObject(picture);
@@ -135,132 +140,97 @@ LRESULT ValueListView::onPaint() {
 }
 
 void ValueListView::showCurrentRow() {
-  const int row = rows_.rows.currentRow();
+  const int row = rows().currentRow();
   if (row != 0 && !geometry_.isInView(row)) {
     scrollTo(row < geometry_.top ? row : row - geometry_.pageRows() + 1);
   }
+  cellEditor_.follow();
   repaint();
 }
 
-void ValueListView::chooseRow(int row) {
-  if (rows_.rows.isParameterRow(row) && row != rows_.rows.currentRow()) makeCurrent(row);
+void ValueListView::announceCurrentRow() {
+  if (handle() != nullptr) NotifyWinEvent(EVENT_OBJECT_FOCUS, handle(), OBJID_CLIENT, rows().currentRow());
 }
 
-void ValueListView::makeCurrent(int row) {
-  rows_.rows.setCurrentRow(row);
-  showCurrentRow();
-  if (handle() != nullptr) NotifyWinEvent(EVENT_OBJECT_FOCUS, handle(), OBJID_CLIENT, row);
-  tell(events_.rowChosen);
+kit::GridHit ValueListView::hitAt(kit::Place place) const {
+  const POINT point = pointAt(place);
+  const int row = geometry_.rowAt(point.y);
+  const bool onValue = row > 0 && point.x >= geometry_.keyWidth();
+  const RECT arrow = GridPainter::arrowOf(geometry_, row);
+  const POINT units = geometry_.unitsAt(point);
+  return {.row = row,
+          .onValue = onValue,
+          .onArrow = onValue && rows().hasPickList(row) && PtInRect(&arrow, point) != FALSE,
+          .x = units.x,
+          .y = units.y};
 }
 
-void ValueListView::editCurrentRow() {
-  if (handle() == nullptr) return;
-  const int row = rows_.rows.currentRow();
-  showCurrentRow();
-  if (row == 0) {
-    SetFocus(handle());
-  } else {
-    cellEdit_->open(row);
-  }
+kit::Place ValueListView::middleOf(int row) const {
+  const RECT cell = geometry_.cell(kit::ValueListRows::valueColumn, row);
+  return {(cell.left + cell.right) / 2, (cell.top + cell.bottom) / 2};
+}
+
+void ValueListView::takeFocus() {
+  if (handle() != nullptr) SetFocus(handle());
+}
+
+void ValueListView::passFocus(bool forward) {
+  const HWND next = GetNextDlgTabItem(GetAncestor(handle(), GA_ROOT), handle(), forward ? FALSE : TRUE);
+  SetFocus(next != nullptr ? next : handle());
 }
 
 bool ValueListView::isDivider(POINT place) const {
   return place.y < geometry_.titleHeight && std::abs(place.x - geometry_.keyWidth()) <= scaled(handle(), 3);
 }
 
+// The titles take no focus, and what is edited stays open while the divider between them is dragged.
 void ValueListView::onPress(MouseButton button, POINT place) {
   const Lifeline::Watch alive = lifeline_.watch();
-  listWanted_ = false;
-  cellEdit_->end();
-  if (!alive) return;
-  if (button == MouseButton::Primary && isDivider(place)) {
+  const auto list = list_;
+  if (geometry_.rowAt(place.y) != 0) {
+    list->endEdit();
+    if (!alive) return;
+    SetFocus(handle());
+  } else if (button == MouseButton::Primary && isDivider(place)) {
     dragging_ = true;
     SetCapture(handle());
-    return;
   }
-  SetFocus(handle());
-  const int pressed = geometry_.rowAt(place.y);
-  if (pressed > 0) chooseRow(pressed);
-  if (!alive) return;
-  const POINT units = geometry_.unitsAt(place);
-  tell(events_.mousePressed, button, static_cast<int>(units.x), static_cast<int>(units.y));
-  if (!alive || button != MouseButton::Primary || !isEnabledHere()) return;
-  // What was told may have changed the rows.
-  const int row = geometry_.rowAt(place.y);
-  if (row <= 0 || row != rows_.rows.currentRow() || place.x < geometry_.keyWidth()) return;
-  const RECT arrow = GridPainter::arrowOf(geometry_, row);
-  editCurrentRow();
-  listWanted_ = rows_.hasList(row) && PtInRect(&arrow, place) != FALSE;
+  list->pressMouse(button, placeOf(place));
 }
 
 void ValueListView::onMove(POINT place, bool isLeftDown) {
   if (dragging_ && isLeftDown) {
     geometry_.keyShare = geometry_.width > 0 ? static_cast<double>(place.x) / geometry_.width : geometry_.keyShare;
-    cellEdit_->follow();
+    cellEditor_.follow();
     repaint();
     return;
   }
-  const POINT units = geometry_.unitsAt(place);
-  tell(events_.mouseMoved, static_cast<int>(units.x), static_cast<int>(units.y));
+  std::shared_ptr(list_)->moveMouse(placeOf(place));
 }
 
-void ValueListView::onRelease(POINT) {
+void ValueListView::onRelease() {
   if (std::exchange(dragging_, false)) ReleaseCapture();
-  if (std::exchange(listWanted_, false)) cellEdit_->showList();
+  list_->releaseMouse();
 }
 
 void ValueListView::onContextMenu(POINT place) {
+  const auto list = list_;
   if (place.x == -1 && place.y == -1) {
-    askForMenuByKey();
+    list->askForMenuByKey();
     return;
   }
-  const Lifeline::Watch alive = lifeline_.watch();
-  cellEdit_->end();
-  if (!alive) return;
-  POINT inside = place;
-  ScreenToClient(handle(), &inside);
-  chooseRow(std::max(geometry_.rowAt(inside.y), 0));
-  if (alive) askForMenu(geometry_.unitsAt(inside), place);
+  ScreenToClient(handle(), &place);
+  list->askForMenu(placeOf(place));
 }
 
-// No press comes before such a request that would tell of the row: it is told in any case.
-void ValueListView::askForMenuByKey() {
-  const Lifeline::Watch alive = lifeline_.watch();
-  const int edited = cellEdit_->row();
-  cellEdit_->end();
-  if (!alive) return;
-  const int row = edited != 0 ? edited : rows_.rows.currentRow();
-  if (!rows_.rows.isParameterRow(row)) return;
-  makeCurrent(row);
-  if (!alive) return;
-  const RECT cell = geometry_.cell(GridRows::valueColumn, row);
-  POINT middle{(cell.left + cell.right) / 2, (cell.top + cell.bottom) / 2};
-  const POINT units = geometry_.unitsAt(middle);
-  ClientToScreen(handle(), &middle);
-  askForMenu(units, middle);
+POINT ValueListView::menuPlace() const {
+  POINT place = pointAt(list_->menuPlace());
+  ClientToScreen(handle(), &place);
+  return place;
 }
 
-void ValueListView::askForMenu(POINT units, POINT place) {
-  menuPlace_ = place;
-  tell(events_.menuAskedFor, static_cast<int>(units.x), static_cast<int>(units.y));
-}
-
-bool ValueListView::moveBy(WPARAM key) {
-  const int current = rows_.rows.currentRow();
-  const int last = rows_.rows.rowCount() - 1;
-  switch (key) {
-    case VK_UP: chooseRow(current - 1); return true;
-    case VK_DOWN: chooseRow(current + 1); return true;
-    case VK_PRIOR: chooseRow(std::max(current - geometry_.pageRows(), 1)); return true;
-    case VK_NEXT: chooseRow(std::min(current + geometry_.pageRows(), last)); return true;
-    case VK_HOME: chooseRow(1); return true;
-    case VK_END: chooseRow(last); return true;
-    default: return false;
-  }
-}
-
-void ValueListView::copyCurrent() const {
-  const std::wstring text = toWide(rows_.rows.cell(GridRows::valueColumn, rows_.rows.currentRow()));
+void ValueListView::copy(std::string_view value) {
+  const std::wstring text = toWide(value);
   if (OpenClipboard(handle()) == FALSE) return;
   EmptyClipboard();
   const std::size_t size = (text.size() + 1) * sizeof(wchar_t);
@@ -272,62 +242,29 @@ void ValueListView::copyCurrent() const {
   CloseClipboard();
 }
 
+// An editor that the keys no longer go to has been left, also when its own message of that is still on its way.
 bool ValueListView::onKey(WPARAM key) {
-  const bool isListKey = (key == VK_F4 && isPlain()) || (isDown(VK_MENU) && (key == VK_UP || key == VK_DOWN));
-  if (isListKey) {
-    editCurrentRow();
-    cellEdit_->showList();
-    return true;
-  }
-  if (isDown(VK_CONTROL) && (key == 'C' || key == VK_INSERT)) {
-    copyCurrent();
-    return true;
-  }
-  const bool opens = isPlain() && (key == VK_F2 || (key == VK_RETURN && enterOpens_));
-  const bool deletes = isPlain() && (key == VK_DELETE || key == VK_BACK);
-  const bool pastes = (isDown(VK_CONTROL) && key == 'V') || (isDown(VK_SHIFT) && key == VK_INSERT);
-  if (opens || deletes || pastes) {
-    if (rows_.rows.currentRow() == 0) return true;
-    editCurrentRow();
-    if (deletes) SendMessageW(cellEdit_->line(), WM_CLEAR, 0, 0);
-    if (pastes) SendMessageW(cellEdit_->line(), WM_PASTE, 0, 0);
-    return true;
-  }
-  return isPlain() && moveBy(key);
-}
-
-// A typed character opens the editor and goes there.
-bool ValueListView::onCharacter(WPARAM character) {
-  if (character < L' ' || character == 0x7F || rows_.rows.currentRow() == 0) return true;
-  editCurrentRow();
-  if (const HWND line = cellEdit_->line()) SendMessageW(line, WM_CHAR, character, 1);
+  const Lifeline::Watch alive = lifeline_.watch();
+  cellEditor_.checkFocus();
+  if (!alive) return true;
+  const auto answer = std::shared_ptr(list_)->pressKey(keyPressOf(key));
+  if (!alive || answer != kit::ValueList::KeyAnswer::IntoEditor) return answer != kit::ValueList::KeyAnswer::NotTaken;
+  // The value is selected.
+  const bool deletes = key == VK_DELETE || key == VK_BACK;
+  const UINT cutOrClear = key == VK_DELETE && isDown(VK_SHIFT) ? WM_CUT : WM_CLEAR;
+  SendMessageW(cellEditor_.window(), deletes ? cutOrClear : WM_PASTE, 0, 0);
   return true;
 }
 
-void ValueListView::goOn(int row, CellEdit::Step step) {
-  using Step = CellEdit::Step;
-  const int last = rows_.rows.rowCount() - 1;
-  int target = 0;
-  switch (step) {
-    case Step::NextCell:
-    case Step::NextLine:
-    case Step::Down: target = row + 1; break;
-    case Step::PreviousCell:
-    case Step::Up: target = row - 1; break;
-    case Step::PageDown: target = std::min(row + geometry_.pageRows(), last); break;
-    case Step::PageUp: target = std::max(row - geometry_.pageRows(), 1); break;
-  }
-  if (rows_.rows.isParameterRow(target)) {
-    const Lifeline::Watch alive = lifeline_.watch();
-    chooseRow(target);
-    if (alive) editCurrentRow();
-  } else if (step == Step::NextCell || step == Step::PreviousCell) {
-    const HWND root = GetAncestor(handle(), GA_ROOT);
-    const HWND next = GetNextDlgTabItem(root, handle(), step == Step::PreviousCell ? TRUE : FALSE);
-    SetFocus(next != nullptr ? next : handle());
-  } else if (step != Step::NextLine) {
-    editCurrentRow();  // at the first or last row an arrow leads nowhere
-  }
+// A typed character opens the editor and goes there.
+void ValueListView::onCharacter(WPARAM character) {
+  if (character < L' ' || character == 0x7F) return;
+  const Lifeline::Watch alive = lifeline_.watch();
+  cellEditor_.checkFocus();
+  if (!alive) return;
+  const auto answer = std::shared_ptr(list_)->pressKey({.key = kit::Key::Character});
+  if (!alive || answer != kit::ValueList::KeyAnswer::IntoEditor) return;
+  SendMessageW(cellEditor_.window(), WM_CHAR, character, 1);
 }
 
 std::optional<LRESULT> ValueListView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -359,38 +296,36 @@ std::optional<LRESULT> ValueListView::onMessage(UINT message, WPARAM wParam, LPA
     case WM_RBUTTONDOWN:
     case WM_RBUTTONDBLCLK: onPress(MouseButton::Secondary, placeOf(lParam)); return 0;
     case WM_MBUTTONDOWN: onPress(MouseButton::Middle, placeOf(lParam)); return 0;
-    case WM_LBUTTONUP: onRelease(placeOf(lParam)); return 0;
+    case WM_LBUTTONUP: onRelease(); return 0;
     case WM_MOUSEMOVE: onMove(placeOf(lParam), (wParam & MK_LBUTTON) != 0); return 0;
     case WM_CONTEXTMENU: onContextMenu(placeOf(lParam)); return 0;
     case WM_GETDLGCODE: {
       const auto* const asked = reinterpret_cast<const MSG*>(lParam);
-      const bool isEnter =
-          asked != nullptr && asked->wParam == VK_RETURN && enterOpens_ && rows_.rows.currentRow() != 0;
+      const bool isEnter = asked != nullptr && asked->wParam == VK_RETURN && rows().currentRow() != 0 &&
+                           list_->wantsKey({.key = kit::Key::Enter});
       return DLGC_WANTARROWS | DLGC_WANTCHARS | (isEnter ? DLGC_WANTMESSAGE : 0);
     }
     case WM_SYSKEYDOWN:
     case WM_KEYDOWN:
       if (onKey(wParam)) return 0;
       break;
-    case WM_CHAR:
-      if (onCharacter(wParam)) return 0;
-      break;
+    case WM_CHAR: onCharacter(wParam); return 0;
     default: break;
   }
   return std::nullopt;
 }
 
 std::wstring ValueListView::Items::name(int item) const {
-  return toWide(view_.rows_.rows.cell(GridRows::keyColumn, item));
+  return toWide(view_.rows().cell(kit::ValueListRows::keyColumn, item));
 }
 
 std::wstring ValueListView::Items::value(int item) const {
-  return toWide(view_.rows_.rows.cell(GridRows::valueColumn, item));
+  return toWide(view_.rows().cell(kit::ValueListRows::valueColumn, item));
 }
 
 RECT ValueListView::Items::place(int item) const {
   if (!view_.geometry_.isInView(item)) return {};
-  RECT place = view_.geometry_.cell(GridRows::valueColumn, item);
+  RECT place = view_.geometry_.cell(kit::ValueListRows::valueColumn, item);
   place.left = 0;
   return place;
 }

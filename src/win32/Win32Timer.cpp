@@ -1,6 +1,6 @@
 #include "win32/Win32Timer.h"
 
-#include "win32/Notify.h"
+#include "kit/Notify.h"
 
 namespace mavCycEd::win32 {
 namespace {
@@ -31,7 +31,7 @@ void Win32Timer::restart() {
 LRESULT Win32Timer::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message != WM_TIMER) return MessageWindow::onMessage(message, wParam, lParam);
   // A tick that was already on its way when the timer was switched off is none.
-  if (enabled_ && !(hold_ && hold_())) tell(events_.Tick);
+  if (enabled_) kit::tell(events_.Tick);
   return 0;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <utility>
 
 #include "platform/Timer.h"
@@ -8,12 +7,9 @@
 
 namespace mavCycEd::win32 {
 
-/// A timer. A tick can be held back: the interval then starts anew.
+/// A timer.
 class Win32Timer : public platform::Timer, private MessageWindow {
  public:
-  /// While `hold` is true no tick is told.
-  void setHold(std::function<bool()> hold) { hold_ = std::move(hold); }
-
   void setEvents(platform::TimerEvents events) override { events_ = std::move(events); }
   int interval() const override { return interval_; }
   void setInterval(int milliseconds) override;
@@ -24,7 +20,6 @@ class Win32Timer : public platform::Timer, private MessageWindow {
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void restart();
 
-  std::function<bool()> hold_;
   platform::TimerEvents events_;
   int interval_ = 0;
   bool enabled_ = false;

@@ -34,7 +34,7 @@ Win32VariableDialog::Win32VariableDialog(HWND owner, std::shared_ptr<Win32Variab
   gate_.setEndEdit([this] { controls_.grdParamStnd.endEdit(); });
   c.mnuSyrConstant.setPlace([this] { return controls_.grdParamStnd.view().menuPlace(); });
   c.frmparams.window().setDefaultButton(c.OKButton.handle());
-  c.grdParamStnd.view().setEnterOpens(false);  // Enter is OK
+  c.grdParamStnd.list().setEnterOpens(false);  // Enter is OK
   c.frmparams.window().setLayOut([this] { layOut(); });
   c.frmparams.window().setScalingChanged([this] { fit(); });
   c.frmparams.setFirst([this] { return GetNextDlgTabItem(window(), nullptr, FALSE); });

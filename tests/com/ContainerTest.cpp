@@ -187,6 +187,30 @@ TEST_F(MessageTest, TheHostMayCloseTheEditorWhileAMessageIsOpen) {
   EXPECT_FALSE(site);
 }
 
+// Texts that are only stored, and questions, leave alone what an operator is typing.
+TEST_F(MessageTest, SettingsLeaveAnOpenEditAlone) {
+  const Placed site = placed();
+  EXPECT_EQ(site->editor().SetXMLStrings(Text(catalogue), Text(macroText)), S_OK);
+  const HWND grid = FindWindowExW(site->controlWindow(), nullptr, L"mavCycEd.ValueList", nullptr);
+  SetFocus(grid);
+  for (const wchar_t digit : {L'9', L'9', L'9'}) {
+    PostMessageW(GetFocus(), WM_CHAR, digit, 0);
+    pump();
+  }
+  const HWND line = FindWindowExW(grid, nullptr, L"Edit", nullptr);
+  ASSERT_NE(line, nullptr);
+  EXPECT_EQ(site->editor().SetConfigXML(Text(L"")), S_OK);
+  EXPECT_EQ(site->editor().put_Ignore_Hidden(VARIANT_TRUE), S_OK);
+  EXPECT_EQ(site->editor().put_ResetCycle(Text(L"")), S_OK);
+  VARIANT_BOOL changed = VARIANT_FALSE;
+  EXPECT_EQ(site->editor().get_CycleChanged(&changed), S_OK);
+  EXPECT_EQ(FindWindowExW(grid, nullptr, L"Edit", nullptr), line) << "it is still open";
+  EXPECT_EQ(messages_, 0);
+  cycleOf(*site);
+  EXPECT_EQ(FindWindowExW(grid, nullptr, L"Edit", nullptr), nullptr);
+  EXPECT_EQ(messages_, 1) << "beyond its range";
+}
+
 // Rounds of a user's work, with a look at what the system keeps for the process.
 TEST_F(ContainerTest, AHundredRoundsLeaveNothing) {
   const auto round = [&] {

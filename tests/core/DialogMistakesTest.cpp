@@ -134,7 +134,10 @@ TEST_F(WhileAMessageIsShown, TheControlMayBeDestroyed) {
   const std::function<void(MistakenHost&)> acts[] = {
       [](MistakenHost& host) { host.screen().spoiltGrid.type(1, "700"); },
       [](MistakenHost& host) { host.screen().spoiltGrid.type(1, "1;2"); },
-      [](MistakenHost& host) { host.screen().spoiltGrid.pick(1, "700"); },
+      [](MistakenHost& host) {
+        host.screen().spoiltGrid.setPickList(1, "700");
+        host.screen().spoiltGrid.pick(1, "700");
+      },
       [](MistakenHost& host) { host.screen().lstVariables.doubleClick(0); },
       [](MistakenHost& host) {
         host.screen().lstVariables.setIndex(0);

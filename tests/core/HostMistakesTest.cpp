@@ -164,7 +164,11 @@ const Trigger triggers[] = {
      }},
     {"typing", spoilMessages, [](MistakenHost& host) { host.screen().spoiltGrid.type(1, "1;2;3"); }},
     {"an edit's end", spoilMessages, [](MistakenHost& host) { host.screen().spoiltGrid.type(1, "700"); }},
-    {"a pick", spoilMessages, [](MistakenHost& host) { host.screen().spoiltGrid.pick(1, "700"); }},
+    {"a pick", spoilMessages,
+     [](MistakenHost& host) {
+       host.screen().spoiltGrid.setPickList(1, "700");
+       host.screen().spoiltGrid.pick(1, "700");
+     }},
     {"another row", spoilRow, [](MistakenHost& host) { host.screen().spoiltGrid.type(2, "x"); }},
     {"a pick in another row", spoilRow, [](MistakenHost& host) { host.screen().spoiltGrid.pick(2, "x"); }},
     {"a press", spoilRow,

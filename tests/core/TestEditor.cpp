@@ -45,7 +45,7 @@ std::vector<std::string> TestEditor::gridValues() {
 }
 
 std::vector<std::string> TestEditor::pickList(int row) {
-  const ValueListRows::Entry* entry = screen().GrdAtom.rows().entry(row);
+  const kit::ValueListRows::Entry* entry = screen().GrdAtom.rows().entry(row);
   return entry != nullptr ? entry->pickList : std::vector<std::string>();
 }
 

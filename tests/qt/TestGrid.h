@@ -64,7 +64,7 @@ class TestGrid {
   /// The open editor of a row's value, nullptr when there is none.
   QWidget* editor(int row) { return view().indexWidget(view().model()->index(row - 1, 1)); }
   /// The row whose editor is open, 0 for none.
-  int editedRow() { return view().cellEdit().row(); }
+  int editedRow() { return grid.list().edit().row(); }
   std::string editorText() { return qt::lineOf(*editor(editedRow())).text().toStdString(); }
   std::string value(int row) { return grid.cellText(1, row); }
 

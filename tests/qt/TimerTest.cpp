@@ -41,19 +41,6 @@ TEST_F(Timer, StandsStillWithoutAnInterval) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return ticks > 0; }));
 }
 
-TEST_F(Timer, DropsATickThatHasLostItsPurpose) {
-  bool dropped = true;
-  timer.setDrop([&dropped] { return dropped; });
-  timer.setInterval(1);
-  timer.setEnabled(true);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !timer.isEnabled(); }));
-  dropped = false;
-  QTest::qWait(20);
-  EXPECT_EQ(ticks, 0);
-  timer.setEnabled(true);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return ticks > 0; }));
-}
-
 TEST_F(Timer, SwitchesItselfOff) {
   timer.setEvents({.Tick = [this] {
     ++ticks;

@@ -25,19 +25,19 @@ SOURCES = {
     "src/control/modGlobal.cpp": set(),
     "src/control/modMsgBox.cpp": set(),
     "src/control/EditorControl.cpp": set(),
-    "src/editing/CycleVariables.cpp": set(),
-    "src/editing/frmparams.cpp": {"Parameter Description", "Modify Parameter", "Add New Parameter", "Default Value",
+    "src/panels/CycleVariables.cpp": set(),
+    "src/panels/frmparams.cpp": {"Parameter Description", "Modify Parameter", "Add New Parameter", "Default Value",
                                   "Lower limit", "Upper limit"},
-    "src/paramgrid/ValueValidation.cpp": {"Default:"},
+    "src/panels/ValueValidation.cpp": {"Default:"},
     "src/platform/RunTimeError.cpp": set(),
     "src/text/MessageTitles.h": set(),
 }
 SHOWS_MESSAGES = re.compile(r"[.>]messageBox\(")
-FOLDERS_OF_SOURCES = ("src/catalogue", "src/control", "src/cycle", "src/editing", "src/paramgrid")
+FOLDERS_OF_SOURCES = ("src/catalogue", "src/control", "src/cycle", "src/panels")
 # Forwards to the service, and has no texts of its own.
 NO_TEXTS = {"src/control/modMsgBox.h"}
 
-CAPTION_SOURCES = ("src/control/ScreenStart.cpp", "src/editing/frmparams.cpp")
+CAPTION_SOURCES = ("src/control/ScreenStart.cpp", "src/panels/frmparams.cpp")
 CAPTION = re.compile(r'(?:setCaption\(|setColumnTitle\(\d, |setCaption\([^")]*\? |: )"((?:\\.|[^"\\])+)"')
 SETTING = re.compile(r'Setting\{\w+, "([^"]+)"')
 NAME_SOURCES = ("src/qt/EditorScreen.h", "src/qt/QtVariableDialog.h", "src/qt/QtVariableDialog.cpp")
@@ -222,12 +222,12 @@ def self_test(tree):
          'the text "The upper limit is missing."'),
         ("docs/help/messages.html", "out of range or invalid", "out of range, or invalid",
          "out of range or invalid step"),
-        ("src/editing/frmparams.cpp", "Empty parameter name", "No parameter name", 'the text "No parameter name"'),
-        ("src/paramgrid/ValueValidation.cpp", "'&<>;,", "'&<>;,?", "ValueValidation.cpp is missing"),
+        ("src/panels/frmparams.cpp", "Empty parameter name", "No parameter name", 'the text "No parameter name"'),
+        ("src/panels/ValueValidation.cpp", "'&<>;,", "'&<>;,?", "ValueValidation.cpp is missing"),
         ("src/cycle/CycleLoader.cpp", "void CycleLoader::FillCycle() {", "void f() { m.messageBox(0); ",
          "it shows messages"),
         ("src/control/ScreenStart.cpp", "&Replace", "&Exchange", 'the caption "&Exchange" is nowhere'),
-        ("src/editing/frmparams.cpp", '"Modify Parameter"', '"Change it"', 'the caption "Change it" is nowhere'),
+        ("src/panels/frmparams.cpp", '"Modify Parameter"', '"Change it"', 'the caption "Change it" is nowhere'),
         ("src/qt/EditorScreen.h", '"lstVariables"', '"lstNames"', 'the control "lstNames" is missing'),
     ]
     failures = [f"the tree itself is reported: {problem}" for problem in Check(tree).run()]

@@ -13,7 +13,7 @@ from typing import NamedTuple
 
 # What each room may include besides itself. A room that is missing here may include nothing and is reported.
 BELOW_PANELS = ("platform", "text", "document", "catalogue", "rules", "cycle")
-CORE = (*BELOW_PANELS, "paramgrid", "panels", "control")
+CORE = (*BELOW_PANELS, "panels", "control")
 ROOMS = {
     "platform": (),
     "text": ("platform",),
@@ -24,7 +24,6 @@ ROOMS = {
     "cycle": ("platform", "text", "document", "catalogue", "rules"),
     "panels": BELOW_PANELS,
     "control": (*BELOW_PANELS, "panels"),
-    "paramgrid": ("text",),
     "libxml2": ("platform", "text"),
     "memory": (*CORE, "kit"),
     "qt": (*CORE, "kit", "libxml2"),

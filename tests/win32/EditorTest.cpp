@@ -32,7 +32,7 @@ class Win32EditorTest : public ::testing::Test {
   }
   Win32ValueList& grid() { return editor_.windows().GrdAtom; }
   HWND view() { return grid().view().handle(); }
-  HWND line() { return grid().view().cellEdit().line(); }
+  HWND line() { return grid().view().cellEditor().window(); }
   std::string value(int row) { return grid().cellText(1, row); }
 
   HostWindow host_;
@@ -48,7 +48,7 @@ TEST_F(Win32EditorTest, TypingOpensTheEditorAndReplacesTheValue) {
   EXPECT_EQ(value(1), "42");
   key(line(), VK_RETURN);
   EXPECT_EQ(grid().Row(), 2);
-  EXPECT_EQ(grid().view().cellEdit().row(), 2);
+  EXPECT_EQ(grid().list().edit().row(), 2);
   EXPECT_THAT(editor_.messages, IsEmpty());
 }
 
@@ -97,9 +97,9 @@ TEST_F(Win32EditorTest, AListFillsItsCellWithItsTextInTheMiddle) {
 TEST_F(Win32EditorTest, TabGoesFromValueToValueAndThenOn) {
   grid().focusValue(1);
   key(line(), VK_TAB);
-  EXPECT_EQ(grid().view().cellEdit().row(), 2);
+  EXPECT_EQ(grid().list().edit().row(), 2);
   key(line(), VK_TAB);
-  EXPECT_EQ(grid().view().cellEdit().row(), 3);
+  EXPECT_EQ(grid().list().edit().row(), 3);
   key(line(), VK_TAB);
   EXPECT_FALSE(grid().isEditing());
   EXPECT_NE(GetFocus(), view());
@@ -122,6 +122,97 @@ TEST_F(Win32EditorTest, ACharacterOfTwoHalvesIsTypedOnce) {
   SendMessageW(line(), WM_CHAR, 0xDE00, 1);
   settle();
   EXPECT_EQ(value(1), "😀");
+}
+
+// As many milliseconds as the editor's own timer takes, and some more.
+void waitForTheGridTimer() {
+  constexpr DWORD milliseconds = 700;
+  for (const DWORD begin = GetTickCount(); GetTickCount() - begin < milliseconds; Sleep(10)) settle();
+}
+
+TEST_F(Win32EditorTest, TheGridTimerMakesTheFirstRowCurrent) {
+  grid().setRow(3);
+  waitForTheGridTimer();
+  EXPECT_EQ(grid().Row(), 1);
+}
+
+TEST_F(Win32EditorTest, AnOperatorWhoHasComeToARowKeepsIt) {
+  SetFocus(view());
+  key(view(), VK_DOWN);
+  EXPECT_FALSE(editor_.windows().tmrUpdateGrid->isEnabled());
+  waitForTheGridTimer();
+  EXPECT_EQ(grid().Row(), 2);
+}
+
+TEST_F(Win32EditorTest, ATickThatFallsIntoAnEditIsDropped) {
+  grid().focusValue(3);
+  waitForTheGridTimer();
+  key(line(), VK_ESCAPE);
+  waitForTheGridTimer();
+  EXPECT_EQ(grid().Row(), 3);
+  EXPECT_FALSE(editor_.windows().tmrUpdateGrid->isEnabled());
+}
+
+TEST_F(Win32EditorTest, APickedValueIsStillBeingEdited) {
+  grid().focusValue(3);
+  const HWND combo = GetParent(line());
+  SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);
+  SendMessageW(combo, CB_SETCURSEL, 1, 0);
+  key(combo, VK_RETURN);
+  EXPECT_EQ(value(3), "fast");
+  EXPECT_EQ(grid().list().edit().row(), 3);
+  EXPECT_EQ(GetFocus(), line());
+  key(line(), VK_UP);
+  EXPECT_EQ(grid().list().edit().row(), 2);
+}
+
+TEST_F(Win32EditorTest, APressOnTheDividerIsToldAndDragsIt) {
+  grid().focusValue(2);
+  const GridGeometry before = grid().view().geometry();
+  int presses = 0;
+  platform::ValueListEvents events;
+  events.MouseDown = [&](platform::MouseButton, int x, int y) {
+    ++presses;
+    EXPECT_EQ(x, 151);
+    EXPECT_LT(y, 19);
+  };
+  grid().setEvents(std::move(events));
+  SendMessageW(view(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(before.keyWidth(), 2));
+  SendMessageW(view(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(before.keyWidth() + 20, 2));
+  SendMessageW(view(), WM_LBUTTONUP, 0, MAKELPARAM(before.keyWidth() + 20, 2));
+  settle();
+  EXPECT_EQ(presses, 1);
+  EXPECT_NEAR(grid().view().geometry().keyWidth(), before.keyWidth() + 20, 1);
+  EXPECT_EQ(grid().list().edit().row(), 2) << "the value stays open";
+}
+
+TEST_F(Win32EditorTest, WhatIsPastedIsPutOnOneLine) {
+  grid().focusValue(1);
+  SendMessageW(line(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"1\r\n2\t3"));
+  settle();
+  EXPECT_EQ(value(1), "1 2 3");
+}
+
+TEST_F(Win32EditorTest, TypingGoesOnWhereACharacterHadToGo) {
+  grid().focusValue(1);
+  type(line(), L"1234");
+  SendMessageW(line(), EM_SETSEL, 2, 2);
+  type(line(), L";5");
+  EXPECT_EQ(value(1), "12534");
+}
+
+TEST_F(Win32EditorTest, APressIsOnTheRowUnderThePointerAlsoWhenTheEditedOneIsOutOfView) {
+  for (int row = 4; row <= 80; ++row) grid().InsertRow("Key" + std::to_string(row), "", true);
+  grid().focusValue(1);
+  SendMessageW(view(), WM_VSCROLL, SB_PAGEDOWN, 0);
+  SendMessageW(view(), WM_VSCROLL, SB_PAGEDOWN, 0);
+  const GridGeometry& geometry = grid().view().geometry();
+  const int row = geometry.top + 1;
+  const RECT cell = geometry.cell(1, row);
+  SendMessageW(view(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(cell.left + 5, cell.top + 3));
+  SendMessageW(view(), WM_LBUTTONUP, 0, MAKELPARAM(cell.left + 5, cell.top + 3));
+  settle();
+  EXPECT_EQ(grid().list().edit().row(), row);
 }
 
 TEST_F(Win32EditorTest, AHostCallFinishesTheOpenEdit) {

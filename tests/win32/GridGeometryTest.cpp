@@ -20,7 +20,7 @@ class GridGeometryTest : public ::testing::TestWithParam<int> {
 };
 
 TEST_P(GridGeometryTest, EveryUnitIsFoundAgain) {
-  for (int y = 0; y < 5 * GridGeometry::rowUnits; ++y) {
+  for (int y = 0; y < 5 * kit::units::rowHeight; ++y) {
     const POINT units = roundTrip({160, y});
     EXPECT_EQ(units.y, y);
     EXPECT_EQ(units.x, 160);
@@ -33,14 +33,14 @@ TEST_P(GridGeometryTest, TheValueColumnBeginsAt151) {
 }
 
 TEST_P(GridGeometryTest, BelowTheRowsTheUnitsGoOn) {
-  EXPECT_EQ(geometry_.unitsAt({0, geometry_.cell(0, 6).top}).y, 6 * GridGeometry::rowUnits);
+  EXPECT_EQ(geometry_.unitsAt({0, geometry_.cell(0, 6).top}).y, 6 * kit::units::rowHeight);
   EXPECT_EQ(geometry_.rowAt(geometry_.cell(0, 6).top), -1);
 }
 
 TEST_P(GridGeometryTest, ScrolledRowsKeepTheirUnits) {
   geometry_.top = 3;
   EXPECT_EQ(geometry_.rowAt(geometry_.titleHeight), 3);
-  EXPECT_EQ(geometry_.unitsAt({0, geometry_.titleHeight}).y, 3 * GridGeometry::rowUnits);
+  EXPECT_EQ(geometry_.unitsAt({0, geometry_.titleHeight}).y, 3 * kit::units::rowHeight);
 }
 
 INSTANTIATE_TEST_SUITE_P(Scalings, GridGeometryTest, ::testing::Values(100, 125, 150, 200));

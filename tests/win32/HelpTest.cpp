@@ -42,7 +42,7 @@ TEST(Win32Help, F1ShowsTheHelpWhereverTheKeyboardIs) {
   const HWND grid = editor.windows().GrdAtom.view().handle();
   SetFocus(grid);
   type(grid, L"2");
-  const HWND line = editor.windows().GrdAtom.view().cellEdit().line();
+  const HWND line = editor.windows().GrdAtom.view().cellEditor().window();
   ASSERT_NE(line, nullptr);
   const EditorControls& w = editor.windows();
   const std::vector<std::pair<HWND, std::wstring>> windows{{line, L"values.html"},

@@ -35,7 +35,7 @@ class Win32HugeText : public ::testing::Test {
     settle();
   }
   HWND view() { return editor_.windows().GrdAtom.view().handle(); }
-  HWND line() { return editor_.windows().GrdAtom.view().cellEdit().line(); }
+  HWND line() { return editor_.windows().GrdAtom.view().cellEditor().window(); }
   HWND description() { return editor_.windows().txtCycleDescription.handle(); }
   bool isHandedBack(const std::string& text) {
     return editor_.editor().control().RetrieveCycle().find(text) != std::string::npos;

@@ -1,4 +1,4 @@
-#include "paramgrid/ValueListRows.h"
+#include "kit/ValueListRows.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace mavCycEd {
+namespace mavCycEd::kit {
 namespace {
 
 using ::testing::ElementsAre;
@@ -156,4 +156,4 @@ TEST_F(ValueListRowsTest, APickListMovesWithItsRow) {
 }
 
 }  // namespace
-}  // namespace mavCycEd
+}  // namespace mavCycEd::kit
