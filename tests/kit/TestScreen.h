@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -39,6 +41,7 @@ class TestScreen : public ValueListScreen, public CellEditor {
 
   bool openEditor(int row) override {
     if (!hasEditor) return false;
+    EXPECT_EQ(editedRow, 0) << "the editor before it is closed first";
     editedRow = row;
     typing = {rows_.cell(ValueListRows::valueColumn, row), 0};
     focus = Focus::Editor;
