@@ -190,7 +190,7 @@ TEST_F(MessageTest, TheHostMayCloseTheEditorWhileAMessageIsOpen) {
 // Texts that are only stored, and questions, leave alone what an operator is typing.
 TEST_F(MessageTest, SettingsLeaveAnOpenEditAlone) {
   const Placed site = placed();
-  EXPECT_EQ(site->editor().SetXMLStrings(Text(catalogue), Text(macroText)), S_OK);
+  EXPECT_EQ(site->editor().SetXMLStrings(Text(catalogue), Text(L"[PMA]\r\n//\r\nWAIT(7)\r\n")), S_OK);
   const HWND grid = FindWindowExW(site->controlWindow(), nullptr, L"mavCycEd.ValueList", nullptr);
   SetFocus(grid);
   for (const wchar_t digit : {L'9', L'9', L'9'}) {
