@@ -6,7 +6,12 @@ namespace mavCycEd::host {
 
 EditorSession::EditorSession(ctlCycEd& editor)
     : editor_(editor), changes_(editor, [this] { return baselineUnsaved_ || editor_.CycleChanged(); }) {
-  connect(&editor_, &ctlCycEd::CycleEditorError, this, [this](int, const QString& text) { reported_ << text; });
+  connect(&editor_, &ctlCycEd::CycleEditorError, this,
+          [this](int number, const QString& text, const QString&, const QString&, const QString& procedure) {
+            reported_ << text;
+            const bool loads = procedure.startsWith(QLatin1String("SetXMLStrings"));
+            if (number == ctlCycEd::mavCycEdErrorInvalidXML && !loads) unwritable_ = text;
+          });
 }
 
 QStringList EditorSession::hand(const QString& cycle) {
@@ -70,6 +75,11 @@ QString EditorSession::takeCycle() {
     loaded_ = cycle;
   }
   return cycle;
+}
+
+// The editor tells it once for each state of the cycle, so what it told last is about this one.
+QString EditorSession::unwritableBecause() const {
+  return editor_.HasAtomLines() && editor_.RetrieveCycle().isEmpty() ? unwritable_ : QString();
 }
 
 void EditorSession::saved() {

@@ -41,9 +41,11 @@ class EditorSession : public QObject {
 
   /// Whether something would be lost if the cycle were closed. Not cheap: the editor writes the cycle for it.
   bool hasUnsavedWork();
-  /// The cycle to be saved; empty when the editor hands none back, because it has no atom lines. It counts as unsaved
-  /// until saved() is called.
+  /// The cycle to be saved; empty when the editor hands none back, because it has no atom lines or cannot be written.
+  /// It counts as unsaved until saved() is called.
   QString takeCycle();
+  /// Why the cycle as it is cannot be written; empty when it can, or has no atom lines.
+  QString unwritableBecause() const;
   void saved();
   /// The cycle as it is, to look at: it counts as saved or unsaved as before. Empty as with takeCycle().
   QString lookAtCycle();
@@ -62,6 +64,7 @@ class EditorSession : public QObject {
   QString loaded_;                ///< the cycle as it was loaded or handed back last
   bool baselineUnsaved_ = false;  ///< what the editor compares with is in no file
   QStringList reported_;
+  QString unwritable_;  ///< what the editor told last of a cycle that cannot be written
   ChangeWatch changes_;
 };
 

@@ -47,14 +47,20 @@ class WaitCursor {
   WaitCursor& operator=(const WaitCursor&) = delete;
 };
 
-Problem nothingToSave(const QString& name) {
+Problem nothingToSave(const QString& name, const QString& unwritable) {
+  if (!unwritable.isEmpty()) {
+    return {QStringLiteral("\"%1\" cannot be saved.").arg(name), unwritable, QStringLiteral("Nothing was written.")};
+  }
   return {QStringLiteral("\"%1\" cannot be saved yet.").arg(name),
           QStringLiteral("It has no atom lines, and the editor hands back nothing without them, not even the "
                          "description and the variables."),
           QStringLiteral("Insert an atom line and save again. Nothing was written.")};
 }
 
-Problem nothingToExport(const QString& name) {
+Problem nothingToExport(const QString& name, const QString& unwritable) {
+  if (!unwritable.isEmpty()) {
+    return {QStringLiteral("\"%1\" cannot be exported.").arg(name), unwritable, QStringLiteral("Nothing was written.")};
+  }
   return {QStringLiteral("\"%1\" cannot be exported yet.").arg(name), QStringLiteral("It has no atom lines."),
           QStringLiteral("Insert an atom line and export again. Nothing was written.")};
 }
@@ -248,7 +254,7 @@ bool HostWindow::saveTo(const QString& path) {
   {
     const WaitCursor waiting;
     const QString cycle = session_->takeCycle();
-    problem = cycle.isEmpty() ? nothingToSave(fileName(path)) : saveCycle(path, cycle);
+    problem = cycle.isEmpty() ? nothingToSave(fileName(path), session_->unwritableBecause()) : saveCycle(path, cycle);
   }
   if (problem) {
     problem->advice += QStringLiteral(" Everything that you entered is still here.");
@@ -273,7 +279,7 @@ void HostWindow::exportMacroText() {
     if (!text.isEmpty()) cycle = session_->lookAtCycle();
   }
   if (text.isEmpty()) return tell(notExported(cycleName(), reported));
-  if (cycle.isEmpty()) return tell(nothingToExport(cycleName()));
+  if (cycle.isEmpty()) return tell(nothingToExport(cycleName(), session_->unwritableBecause()));
   if (!mayLose(lostInMacroText(cycle))) return;
   const QString name = hasName() ? QFileInfo(cycleName()).completeBaseName() : QStringLiteral("cycle");
   const QString path =

@@ -44,6 +44,7 @@ class HostWindow : public QMainWindow {
   void setIgnoreHidden(bool ignore);
   /// The cycle as the editor hands it back; empty when it has no atom lines.
   QString takeCycle() { return session_->takeCycle(); }
+  QString unwritableBecause() const { return session_->unwritableBecause(); }
 
   /// Tells the operator in a message box.
   void tell(const Problem& problem);

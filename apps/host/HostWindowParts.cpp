@@ -77,6 +77,10 @@ void HostWindow::buildFileMenu() {
 }
 
 void HostWindow::buildOtherMenus() {
+  QMenu* const edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+  edit->addAction(editor_->undoAction());
+  edit->addAction(editor_->redoAction());
+
   QMenu* const view = menuBar()->addMenu(QStringLiteral("&View"));
   hiddenAction_ = view->addAction(QStringLiteral("Show &hidden atoms and objects"));
   hiddenAction_->setCheckable(true);

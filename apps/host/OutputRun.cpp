@@ -13,6 +13,8 @@ namespace {
 std::optional<Problem> writeCycle(HostWindow& window, const QString& path) {
   const QString cycle = window.takeCycle();
   if (!cycle.isEmpty()) return saveCycle(path, cycle);
+  const QString unwritable = window.unwritableBecause();
+  if (!unwritable.isEmpty()) return Problem{QStringLiteral("\"%1\" was not written.").arg(path), unwritable, {}};
   return Problem{QStringLiteral("\"%1\" was not written.").arg(path),
                  QStringLiteral("The cycle has no atom lines, and the editor hands back nothing without them."),
                  QStringLiteral("Give a cycle with atom lines.")};

@@ -181,6 +181,17 @@ Widget& QtDriver::use(std::string_view name) const {
   return widget;
 }
 
+// By the keys, where no value is being typed.
+void QtDriver::undo() {
+  see<QListView>("lstAtomSequence").setFocus();
+  QTest::keyClick(control_.get(), Qt::Key_Z, Qt::ControlModifier);
+}
+
+void QtDriver::redo() {
+  see<QListView>("lstAtomSequence").setFocus();
+  QTest::keyClick(control_.get(), Qt::Key_Y, Qt::ControlModifier);
+}
+
 void QtDriver::chooseItem(std::string_view combo, const std::string& text) {
   auto& control = use<QComboBox>(combo);
   const int index = indexOf(itemsOf(*control.model()), std::string(combo), text);

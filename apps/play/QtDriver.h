@@ -44,6 +44,8 @@ class QtDriver : public ControlDriver {
   void selectItem(std::string_view list, int index) override;
   void doubleClickItem(std::string_view list, int index) override;
   void clickButton(std::string_view button) override;
+  void undo() override;
+  void redo() override;
   void tick() override { tick_(); }
 
   void setWhileDialogOpen(std::function<void()> whileDialogOpen) override;

@@ -158,6 +158,16 @@ void Win32Driver::ResetCycle(const std::string& strCycle) { editor_.control().Re
 const EditorControl& Win32Driver::editor() const { return editor_.control(); }
 std::string Win32Driver::MacroString() { return editor_.control().MacroString(); }
 
+void Win32Driver::undo() {
+  editor_.control().Undo();
+  settle();
+}
+
+void Win32Driver::redo() {
+  editor_.control().Redo();
+  settle();
+}
+
 void Win32Driver::chooseItem(std::string_view combo, const std::string& text) {
   auto& control = controls_.use<Win32ComboBox>(combo);
   const int index = indexOf(control.items(), std::string(combo), text);

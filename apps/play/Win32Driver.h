@@ -43,6 +43,8 @@ class Win32Driver : public ControlDriver {
   void selectItem(std::string_view list, int index) override;
   void doubleClickItem(std::string_view list, int index) override;
   void clickButton(std::string_view button) override;
+  void undo() override;
+  void redo() override;
   void tick() override;
 
   void setWhileDialogOpen(std::function<void()> whileDialogOpen) override;

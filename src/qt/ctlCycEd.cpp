@@ -8,6 +8,7 @@
 #include "libxml2/Libxml2DocumentFactory.h"
 #include "qt/EditorAccess.h"
 #include "qt/EditorScreen.h"
+#include "qt/HistoryActions.h"
 #include "qt/QtClock.h"
 #include "qt/QtMessageBox.h"
 #include "qt/QtSystemMessage.h"
@@ -51,7 +52,11 @@ class ctlCycEd::Implementation {
         editor_(std::make_unique<EditorControl>(
             surroundings_->screen.controls(), surroundings_->platformServices(),
             [&control](const CycleEditorErrorEvent& event) { tellError(control, event); },
-            surroundings_->services.provider, surroundings_)) {}
+            surroundings_->services.provider, surroundings_)),
+        history_(
+            control, [this] { editor_->Undo(); }, [this] { editor_->Redo(); }) {
+    editor_->setHistoryChanged([this] { history_.show(editor_->undoText(), editor_->redoText()); });
+  }
   // The editor goes first: what happens to the widgets then is told to nobody.
   ~Implementation() {
     const bool running = editor_->isRunning();
@@ -63,6 +68,7 @@ class ctlCycEd::Implementation {
 
   EditorControl& editor() { return *editor_; }
   qt::HelpDesk& help() { return surroundings_->screen.help(); }
+  qt::HistoryActions& history() { return history_; }
 
   /// Finishes a value that is being typed, before a call of the host's that changes what is shown or takes the cycle.
   /// What the end of the edit leads to may destroy the control: false then.
@@ -81,6 +87,7 @@ class ctlCycEd::Implementation {
 
   std::shared_ptr<Surroundings> surroundings_;
   std::unique_ptr<EditorControl> editor_;
+  qt::HistoryActions history_;
 };
 
 ctlCycEd::ctlCycEd(QWidget* parent) : ctlCycEd(HostServices(), parent) {}
@@ -113,6 +120,8 @@ QString ctlCycEd::MacroString() {
   return Implementation::settle(*this) ? qt::toQt(implementation_->editor().MacroString()) : QString();
 }
 
+bool ctlCycEd::HasAtomLines() const { return !implementation_->editor().cycle().lines.empty(); }
+
 bool ctlCycEd::ParamValueControl(QString& message) {
   std::string text = qt::fromQt(message);
   if (!Implementation::settle(*this)) return false;
@@ -120,6 +129,10 @@ bool ctlCycEd::ParamValueControl(QString& message) {
   message = qt::toQt(text);
   return valid;
 }
+
+QAction* ctlCycEd::undoAction() const { return implementation_->history().undoAction(); }
+
+QAction* ctlCycEd::redoAction() const { return implementation_->history().redoAction(); }
 
 void ctlCycEd::ShowHelp() { implementation_->help().show(qt::HelpPage::Contents); }
 

@@ -88,6 +88,8 @@ class EditorScreen {
 
   /// What F1 does in the editor and in its variable dialog.
   void setHelp(const std::function<void(HWND over, HelpPage page)>& help);
+  /// What the keys for taking steps back do.
+  void setHistory(std::function<void(HistoryStep)> history) { panel_.setHistory(std::move(history)); }
 
   ControlScreen controls();
   EditorControls& windows() { return controls_; }

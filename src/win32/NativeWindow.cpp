@@ -1,6 +1,7 @@
 #include "win32/NativeWindow.h"
 
 #include "win32/Accessible.h"
+#include "win32/HistoryKeys.h"
 #include "win32/Module.h"
 #include "win32/Win32Frame.h"
 
@@ -161,6 +162,7 @@ LRESULT NativeWindow::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     default: break;
   }
   const HWND window = handle_;
+  if (handOnHistoryKey(window, message, wParam)) return 0;
   if (const std::optional<LRESULT> answer = onMessage(message, wParam, lParam)) return *answer;
   return DefSubclassProc(window, message, wParam, lParam);
 }

@@ -48,6 +48,11 @@ std::optional<LRESULT> PanelWindow::onMessage(UINT message, WPARAM wParam, LPARA
     case WM_SETTINGCHANGE:
       if (scalingChanged_) scalingChanged_();
       return 0;
+    case historyMessage: {
+      const auto history = history_;  // the window may go meanwhile
+      if (history) history(static_cast<HistoryStep>(wParam));
+      return 0;
+    }
     case WM_HELP: {
       if (!help_) return std::nullopt;
       const auto help = help_;  // the window may go meanwhile

@@ -3,6 +3,7 @@
 #include <functional>
 #include <utility>
 
+#include "win32/HistoryKeys.h"
 #include "win32/NativeWindow.h"
 
 namespace mavCycEd::win32 {
@@ -21,6 +22,9 @@ class PanelWindow : public NativeWindow {
   /// What F1 does in this window and in those on it.
   void setHelp(std::function<void(HWND)> help) { help_ = std::move(help); }
 
+  /// What the keys for taking steps back do in this window and in those on it.
+  void setHistory(std::function<void(HistoryStep)> history) { history_ = std::move(history); }
+
   void setColors(COLORREF background, COLORREF text);
 
  protected:
@@ -33,6 +37,7 @@ class PanelWindow : public NativeWindow {
   std::function<void()> layOut_;
   std::function<void()> scalingChanged_;
   std::function<void(HWND)> help_;
+  std::function<void(HistoryStep)> history_;
   bool hasColors_ = false;
   COLORREF background_ = 0;
   COLORREF text_ = 0;

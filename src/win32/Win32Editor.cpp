@@ -29,10 +29,19 @@ Win32Editor::Win32Editor(HWND parent, std::unique_ptr<platform::XmlDocumentFacto
                          CycleEditorErrorHandler onError, EditorServices services)
     : surroundings_(std::make_shared<Surroundings>(parent, std::move(xmlDocuments), std::move(services))),
       control_(surroundings_->screen.controls(), surroundings_->platformServices(), std::move(onError),
-               surroundings_->services.provider, surroundings_) {}
+               surroundings_->services.provider, surroundings_) {
+  surroundings_->screen.setHistory([this](HistoryStep step) {
+    if (step == HistoryStep::Undo) {
+      control_.Undo();
+    } else {
+      control_.Redo();
+    }
+  });
+}
 
 // What is still running keeps the windows; the host's own may be on its way out.
 Win32Editor::~Win32Editor() {
+  surroundings_->screen.setHistory({});
   if (control_.isRunning()) surroundings_->screen.setParent(nullptr);
 }
 

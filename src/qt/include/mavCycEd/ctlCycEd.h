@@ -6,6 +6,8 @@
 
 #include "HostServices.h"
 
+class QAction;
+
 namespace mavCycEd {
 
 class EditorControl;
@@ -74,8 +76,10 @@ class ctlCycEd : public QWidget {
   /// The edited cycle as XML with root CYCLE, empty when its sequence of atoms is empty. From now on CycleChanged
   /// compares with it.
   ///
-  /// It is empty as well, without an error, when a name or a value makes no XML (a bare "&" or "<"; in the description
-  /// they do no harm). So never replace a kept cycle by an empty text: tell the user, and keep both.
+  /// It is empty as well when a name, a value or a variable makes no XML (a bare "&" or "<"; in the description they do
+  /// no harm). CycleEditorError then says which one, with the number mavCycEdErrorInvalidXML, once for each state of
+  /// the cycle: at the first RetrieveCycle or CycleChanged that finds it. So never replace a kept cycle by an empty
+  /// text: tell the user, and keep both.
   Q_INVOKABLE QString RetrieveCycle();
 
   void setIgnore_Hidden(bool booNewValue);
@@ -92,10 +96,25 @@ class ctlCycEd : public QWidget {
   /// with two parameters or more.
   QString MacroString();
 
+  /// Whether the cycle has any atom line. Where it has, an empty RetrieveCycle is a cycle that cannot be written.
+  bool HasAtomLines() const;
+
   /// Whether every row of the parameter grid holds a valid value: a number, "On", "Off", or a value that is known for
   /// the parameter; rows with a pick list count as valid. If not, message names the first row that does not; otherwise
   /// it stays as it is. Ranges and steps are not looked at here: the control checks them itself while the user works.
   bool ParamValueControl(QString& message);
+
+  /// Take the operator's last step back and bring it again, for the host's own Edit menu:
+  ///
+  ///     editMenu->addAction(editor->undoAction());
+  ///     editMenu->addAction(editor->redoAction());
+  ///
+  /// Their texts name the step ("Undo Insert") and their enabled states follow, without any further doing. Actions and
+  /// no QUndoStack: the history is the cycle's own, and a second one would have to be kept in step with it. Ctrl+Z,
+  /// Ctrl+Y and Ctrl+Shift+Z work while the focus is in the control, whether the actions are in a menu or not;
+  /// elsewhere these keys stay the host's. The actions belong to the control.
+  QAction* undoAction() const;
+  QAction* redoAction() const;
 
   /// Shows the contents of the operator's help, in a window that goes with the control. F1 shows the page that fits
   /// while the focus is in the control or its dialog; everywhere else F1 is the host's.
