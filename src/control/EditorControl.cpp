@@ -168,7 +168,8 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
 
   // The screen's events go to the procedures that answer them.
   void connect() {
-    screen_.txtCycleDescription.setEvents({.Change = answer([this] { txtCycleDescription_Change(); })});
+    screen_.txtCycleDescription.setEvents(
+        {.Change = answer([this] { txtCycleDescription_Change(); }), .LostFocus = {}});
     screen_.lstAtomSequence.setEvents({.Click = answer([this] { loader_.lstAtomSequence_Click(); }),
                                        .DblClick = answer([this] { loader_.lstAtomSequence_DblClick(); })});
     screen_.cmdInset.setEvents({.Click = answer([this] { sequenceEditing_.cmdInset_Click(); })});

@@ -63,7 +63,7 @@ void frmparams::setCaptions() {
 }
 
 void frmparams::connect() {
-  screen_.txtParamName.setEvents({.Change = [this] { txtParamName_Change(); }});
+  screen_.txtParamName.setEvents({.Change = [this] { txtParamName_Change(); }, .LostFocus = {}});
   screen_.optNrValue.setEvents({.Click = [this] { optNrValue_Click(); }});
   screen_.optObjValue.setEvents({.Click = [this] { optObjValue_Click(); }});
   screen_.OKButton.setEvents({.Click = [this] { OKButton_Click(); }});
