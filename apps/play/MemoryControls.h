@@ -118,8 +118,7 @@ class MemoryControls {
   /// The control of this name, to look at it; a StepRefused when there is none.
   template <typename Control>
   Control& see(std::string_view name) const {
-    Control* control = findIn<Control>(headless_.screen(), screenControls<Control>, name);
-    if (control == nullptr) control = inDialog<Control>(name);
+    Control* const control = find<Control>(name);
     if (control == nullptr) throw StepRefused("There is no such control here: " + std::string(name));
     return *control;
   }
@@ -143,14 +142,12 @@ class MemoryControls {
     return control;
   }
 
-  /// The keyboard focus goes to another control; the combo box that had it is told.
+  /// The keyboard focus goes to another control; the one that had it is told, if it tells of that.
   void moveFocusTo(std::string_view name) {
-    if (focusedCombo_ == name) return;
-    if (!focusedCombo_.empty() && dialog() != nullptr) {
-      const std::string left = std::exchange(focusedCombo_, std::string());
-      if (auto* const combo = inDialog<memory::MemoryComboBox>(left)) combo->leave();
-    }
-    focusedCombo_ = inDialog<memory::MemoryComboBox>(name) != nullptr ? std::string(name) : std::string();
+    if (focused_ == name) return;
+    const std::string left = std::exchange(focused_, name);
+    if (auto* const combo = inDialog<memory::MemoryComboBox>(left)) combo->leave();
+    if (auto* const box = find<memory::MemoryTextBox>(left)) box->leave();
   }
 
   memory::MemoryVariableDialogControls* dialog() const {
@@ -160,12 +157,17 @@ class MemoryControls {
 
  private:
   template <typename Control>
+  Control* find(std::string_view name) const {
+    Control* const control = findIn<Control>(headless_.screen(), screenControls<Control>, name);
+    return control != nullptr ? control : inDialog<Control>(name);
+  }
+  template <typename Control>
   Control* inDialog(std::string_view name) const {
     return dialog() == nullptr ? nullptr : findIn<Control>(*dialog(), dialogControls<Control>, name);
   }
 
   memory::HeadlessEditor& headless_;
-  std::string focusedCombo_;  // the combo box of the dialog that has the keyboard focus
+  std::string focused_;  // the control that has the keyboard focus
 };
 
 }  // namespace mavCycEd::play

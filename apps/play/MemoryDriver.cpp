@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "text/LineEnds.h"
+
 namespace mavCycEd::play {
 
 using namespace memory;
@@ -171,7 +173,8 @@ ComboView MemoryDriver::combo(std::string_view name) const {
 
 TextBoxView MemoryDriver::textBox(std::string_view name) const {
   const auto& control = controls_.see<MemoryTextBox>(name);
-  return {control.text(), control.isUsable()};
+  // What a person sees: lines, whatever ends them.
+  return {control.hasOneLine() ? control.text() : text::typedToCrLf(control.text()), control.isUsable()};
 }
 
 FrameView MemoryDriver::frame(std::string_view name) const {

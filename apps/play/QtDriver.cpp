@@ -376,7 +376,7 @@ TextBoxView QtDriver::textBox(std::string_view name) const {
   auto& widget = see<QWidget>(name);
   std::string text;
   if (const auto* const lines = qobject_cast<QPlainTextEdit*>(&widget)) {
-    text = text::toCrLf(lines->document()->toRawText().toStdString());
+    text = text::typedToCrLf(lines->document()->toRawText().toStdString());
   }
   if (const auto* const line = qobject_cast<QLineEdit*>(&widget)) text = line->text().toStdString();
   return {text, widget.isEnabled()};

@@ -381,7 +381,7 @@ TextBoxView Win32Driver::textBox(std::string_view name) const {
   const bool enabled = IsWindowEnabled(control.handle()) != FALSE && IsWindowVisible(control.handle()) != FALSE;
   const std::string shown = fromWide(textOf(control.handle()));
   const bool severalLines = (GetWindowLongW(control.handle(), GWL_STYLE) & ES_MULTILINE) != 0;
-  return {severalLines ? text::toCrLf(shown) : shown, enabled};
+  return {severalLines ? text::typedToCrLf(shown) : shown, enabled};
 }
 
 FrameView Win32Driver::frame(std::string_view name) const {

@@ -28,15 +28,17 @@ class MemoryTextBox : public platform::TextBox, public Control {
 
   /// The user replaces the whole text in one change, as a paste does. Nothing over nothing is no change.
   void replace(std::string_view text) {
-    std::string replacement = hasOneLine() ? text::onOneLine(text) : text::toCrLf(text);
+    std::string replacement = hasOneLine() ? text::onOneLine(text) : text::typedToCrLf(text);
     if (replacement.empty() && text_.empty()) return;
     text_ = std::move(replacement);
     notify(events_.Change);
   }
 
- private:
+  /// The keyboard focus moves away.
+  void leave() { notify(events_.LostFocus); }
   bool hasOneLine() const { return lines_ == Lines::One; }
 
+ private:
   Lines lines_;
   platform::TextBoxEvents events_;
   std::string text_;

@@ -1,20 +1,24 @@
 #include "qt/ComboWidget.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QScrollBar>
 #include <QStylePainter>
 #include <QWheelEvent>
 #include <algorithm>
+#include <chrono>
 
 #include "qt/FocusRules.h"
 #include "qt/GridKeys.h"
 #include "qt/RowDelegate.h"
+#include "qt/Text.h"
 
 namespace mavCycEd::qt {
 
-ComboWidget::ComboWidget(QWidget* parent) : QComboBox(parent) {
+ComboWidget::ComboWidget(QWidget* parent)
+    : QComboBox(parent), typeAhead_(kit::TypeAhead::Time(QApplication::keyboardInputInterval())) {
   constexpr int mostVisibleItems = 20;
   setMaxVisibleItems(mostVisibleItems);
   setItemDelegate(new RowDelegate(this));
@@ -43,7 +47,31 @@ void ComboWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 void ComboWidget::focusOutEvent(QFocusEvent* event) {
   QComboBox::focusOutEvent(event);
+  typeAhead_.restart();
   if (leavesControl(*this, *event)) emit focusLeft();
+}
+
+void ComboWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Shift) return QComboBox::keyPressEvent(event);
+  if (isEditable() || !typeAhead(*event)) {
+    typeAhead_.restart();
+    QComboBox::keyPressEvent(event);
+  }
+}
+
+// False when nothing was typed. What is told may destroy the widget.
+bool ComboWidget::typeAhead(const QKeyEvent& event) {
+  const bool isText = !event.text().isEmpty() && event.text().front().isPrint() && event.key() != Qt::Key_Space;
+  if (!isText || (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
+  const auto now =
+      std::chrono::duration_cast<kit::TypeAhead::Time>(std::chrono::steady_clock::now().time_since_epoch());
+  const int found = typeAhead_.type(
+      fromQt(event.text()), now,
+      {.count = count(), .current = currentIndex(), .text = [this](int index) { return fromQt(itemText(index)); }});
+  if (found < 0 || found == currentIndex()) return true;
+  setCurrentIndex(found);
+  emit textActivated(currentText());
+  return true;
 }
 
 void ComboWidget::paintEvent(QPaintEvent* event) {

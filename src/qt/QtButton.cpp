@@ -3,12 +3,13 @@
 #include <QPointer>
 
 #include "qt/Notify.h"
+#include "qt/PromptButton.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
 
 QtButton::QtButton(const platform::CommandGate& gate, const char* name, QWidget* parent)
-    : gate_(gate), button_(new QPushButton(parent)) {
+    : gate_(gate), button_(new PromptButton<QPushButton>(parent)) {
   button_->setObjectName(QLatin1String(name));
   // Inside a host's dialog none of our buttons is what Enter presses.
   button_->setAutoDefault(false);

@@ -1,5 +1,6 @@
 #include "qt/QtLineBox.h"
 
+#include "qt/FocusRules.h"
 #include "qt/LineEdits.h"
 #include "qt/Notify.h"
 #include "qt/Text.h"
@@ -8,6 +9,7 @@ namespace mavCycEd::qt {
 
 QtLineBox::QtLineBox(const char* name, QWidget* parent) : edit_(new QLineEdit(parent)) {
   edit_->setObjectName(QLatin1String(name));
+  edit_->installEventFilter(this);
   connect(edit_, &QLineEdit::textEdited, this, &QtLineBox::onTextEdited);
 }
 
@@ -19,6 +21,12 @@ void QtLineBox::setText(std::string_view text) {
 void QtLineBox::focusAndSelectAll() {
   edit_->setFocus();
   edit_->selectAll();
+}
+
+bool QtLineBox::eventFilter(QObject* watched, QEvent* event) {
+  const bool lost = event->type() == QEvent::FocusOut;
+  if (lost && leavesControl(*edit_, static_cast<const QFocusEvent&>(*event))) tell(events_.LostFocus);
+  return QObject::eventFilter(watched, event);
 }
 
 void QtLineBox::onTextEdited() {

@@ -24,6 +24,9 @@ class QtLineBox : public QObject, public platform::TextBox {
   void setEnabled(bool enabled) override { edit_->setEnabled(enabled); }
   void focusAndSelectAll() override;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void onTextEdited();
 

@@ -4,12 +4,13 @@
 #include <QScopedValueRollback>
 
 #include "qt/Notify.h"
+#include "qt/PromptButton.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
 
 QtOptionButton::QtOptionButton(const platform::CommandGate& gate, const char* name, QWidget* parent)
-    : gate_(gate), button_(new QRadioButton(parent)) {
+    : gate_(gate), button_(new PromptButton<QRadioButton>(parent)) {
   button_->setObjectName(QLatin1String(name));
   // Not clicked(): assistive technology selects without it, and a press of the selected option selects nothing.
   connect(button_, &QRadioButton::toggled, this, [this](bool selected) {

@@ -1,11 +1,14 @@
 #include "qt/QtTextBox.h"
 
 #include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <cstddef>
 
+#include "kit/CaretPlace.h"
+#include "qt/FocusRules.h"
 #include "qt/Notify.h"
 #include "qt/Text.h"
 #include "text/LineEnds.h"
@@ -34,6 +37,21 @@ class WordWrappingEdit : public QPlainTextEdit {
     if (source != nullptr && hasEndlessWord(fromQt(source->text()))) setLineWrapMode(NoWrap);
     QPlainTextEdit::insertFromMimeData(source);
   }
+
+  // The keys of undo and redo are not the box's: they go on to whoever has a meaning for them.
+  bool event(QEvent* event) override {
+    const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    if (isKey && isUndoKey(static_cast<const QKeyEvent&>(*event))) {
+      event->ignore();
+      return event->type() == QEvent::ShortcutOverride;
+    }
+    return QPlainTextEdit::event(event);
+  }
+
+ private:
+  static bool isUndoKey(const QKeyEvent& key) {
+    return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+  }
 };
 
 }  // namespace
@@ -41,6 +59,7 @@ class WordWrappingEdit : public QPlainTextEdit {
 QtTextBox::QtTextBox(const char* name, QWidget* parent) : edit_(new WordWrappingEdit(parent)) {
   edit_->setObjectName(QLatin1String(name));
   edit_->setTabChangesFocus(true);
+  edit_->setUndoRedoEnabled(false);
   edit_->installEventFilter(this);
   connect(edit_, &QPlainTextEdit::textChanged, this, &QtTextBox::onTextChanged);
 }
@@ -48,11 +67,24 @@ QtTextBox::QtTextBox(const char* name, QWidget* parent) : edit_(new WordWrapping
 std::string QtTextBox::text() const { return text_; }
 
 void QtTextBox::setText(std::string_view text) {
-  text_ = text::toCrLf(text);
+  std::string next = text::toCrLf(text);
+  if (next == text_) return;
+  const std::size_t caret = kit::caretBehindChange(text_, next);
+  text_ = std::move(next);
   const QScopedValueRollback setting(settingText_, true);
   edit_->clear();  // or the new mode would lay out the old text
   edit_->setLineWrapMode(hasEndlessWord(text_) ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
   edit_->setPlainText(toQt(text_));
+  putCaretBehind(std::string_view(text_).substr(0, caret));
+}
+
+// In the widget a line end is one character.
+void QtTextBox::putCaretBehind(std::string_view text) {
+  QTextCursor cursor = edit_->textCursor();
+  const qsizetype place = toQt(text).replace(QLatin1String("\r\n"), QLatin1String("\n")).size();
+  cursor.setPosition(static_cast<int>(std::min<qsizetype>(place, edit_->document()->characterCount() - 1)));
+  edit_->setTextCursor(cursor);
+  edit_->ensureCursorVisible();
 }
 
 void QtTextBox::focusAndSelectAll() {
@@ -61,7 +93,7 @@ void QtTextBox::focusAndSelectAll() {
 }
 
 // The raw text keeps the characters that the plain text replaces by blanks.
-std::string QtTextBox::typedText() const { return text::toCrLf(fromQt(edit_->document()->toRawText())); }
+std::string QtTextBox::typedText() const { return text::typedToCrLf(fromQt(edit_->document()->toRawText())); }
 
 void QtTextBox::onTextChanged() {
   if (settingText_) return;
@@ -78,6 +110,9 @@ bool QtTextBox::eventFilter(QObject* watched, QEvent* event) {
       break;
     case QEvent::KeyPress:
     case QEvent::MouseButtonPress: composing_ = false; break;
+    case QEvent::FocusOut:
+      if (leavesControl(*edit_, static_cast<const QFocusEvent&>(*event))) tell(events_.LostFocus);
+      break;
     default: break;
   }
   return QObject::eventFilter(watched, event);

@@ -31,6 +31,7 @@ class QtTextBox : public QObject, public platform::TextBox {
  private:
   void onTextChanged();
   std::string typedText() const;
+  void putCaretBehind(std::string_view text);
 
   QPlainTextEdit* edit_;
   platform::TextBoxEvents events_;

@@ -1,15 +1,19 @@
 #pragma once
 
 #include <QString>
+#include <QStringConverter>
 #include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace mavCycEd::qt {
 
-/// A text of the editor (UTF-8) for a widget.
+/// A text of the editor (UTF-8) for a widget: every character of it, also a U+FEFF at its beginning, which is no mark
+/// of an encoding here. fromQt() gives the same text back, where its bytes are characters.
 inline QString toQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  using Flag = QStringConverter::Flag;
+  QStringDecoder decode(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
+  return decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 /// As much of a text as a line on the screen is good for: measuring more takes time and shows nobody anything.

@@ -7,28 +7,26 @@
 namespace mavCycEd::text {
 namespace {
 
-bool isLineEnd(char32_t character) {
+bool isLineEnd(char32_t character) { return character == U'\r' || character == U'\n'; }
+
+bool isTypedLineEnd(char32_t character) {
   switch (character) {
-    case U'\r':
-    case U'\n':
     case U'\u2028':
     case U'\u2029':
     case char32_t{0xFDD0}:
     case char32_t{0xFDD1}: return true;
-    default: return false;
+    default: return isLineEnd(character);
   }
 }
 
 bool isControl(char32_t character) { return character < 0x20 || (character >= 0x7F && character < 0xA0); }
 
-}  // namespace
-
-std::string toCrLf(std::string_view text) {
+std::string withCrLf(std::string_view text, bool (*isEnd)(char32_t)) {
   std::string result;
   result.reserve(text.size());
   while (!text.empty()) {
     std::size_t size = firstCharacterSize(text);
-    if (isLineEnd(firstCharacter(text))) {
+    if (isEnd(firstCharacter(text))) {
       if (text.starts_with(crLf)) size = crLf.size();
       result += crLf;
     } else {
@@ -39,13 +37,19 @@ std::string toCrLf(std::string_view text) {
   return result;
 }
 
+}  // namespace
+
+std::string toCrLf(std::string_view text) { return withCrLf(text, isLineEnd); }
+
+std::string typedToCrLf(std::string_view text) { return withCrLf(text, isTypedLineEnd); }
+
 std::string onOneLine(std::string_view text) {
   std::string result;
   result.reserve(text.size());
   while (!text.empty()) {
     const char32_t character = firstCharacter(text);
     const std::size_t size = text.starts_with(crLf) ? crLf.size() : firstCharacterSize(text);
-    if (isLineEnd(character) || isControl(character)) {
+    if (isTypedLineEnd(character) || isControl(character)) {
       result += ' ';
     } else {
       result += text.substr(0, size);

@@ -42,6 +42,12 @@ HWND shownRootOf(HWND window) {
   return root != nullptr && IsWindowVisible(root) != FALSE ? root : nullptr;
 }
 
+bool hasLostFocusToControl(HWND control) {
+  const HWND focus = GetFocus();
+  const bool isElsewhere = focus != nullptr && focus != control && IsChild(control, focus) == FALSE;
+  return isElsewhere && GetAncestor(focus, GA_ROOT) == GetAncestor(control, GA_ROOT);
+}
+
 NativeWindow::NativeWindow(HWND parent, Win32Frame* frame, const Kind& kind)
     : handle_(make(parent, kind)), frame_(frame) {
   if (handle_ != nullptr) SetWindowSubclass(handle_, procedure, subclassId, reinterpret_cast<DWORD_PTR>(this));

@@ -20,6 +20,10 @@ bool reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
 /// The top-level window that a window stands in, if it is to be seen; nullptr otherwise.
 HWND shownRootOf(HWND window);
 
+/// Whether the keyboard focus is in another control of the window around this one. A list of its own, a menu, or
+/// another window in front does not count.
+bool hasLostFocusToControl(HWND control);
+
 /// A child window of one of the system's classes or of ours, and the object behind it. The object outlives the window
 /// if need be: from then on what it is told about the screen goes nowhere.
 ///

@@ -96,6 +96,16 @@ void Win32ComboBox::setScreenFont(const FontHandle& font, int dpi) {
 }
 
 std::optional<LRESULT> Win32ComboBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  const bool isClosed = mode_ == Mode::PickOnly && send(CB_GETDROPPEDSTATE) == FALSE;
+  switch (message) {
+    case WM_CHAR:
+      if (!isClosed || wParam <= L' ') break;
+      searchFor(static_cast<wchar_t>(wParam));
+      return 0;
+    case WM_SYSKEYDOWN:
+    case WM_KILLFOCUS: typeAhead_.restart(); break;
+    default: break;
+  }
   // Turning the mouse wheel over a closed box never changes it.
   if (message == WM_MOUSEWHEEL && send(CB_GETDROPPEDSTATE) == FALSE) {
     return SendMessageW(GetParent(handle()), message, wParam, lParam);
@@ -106,6 +116,16 @@ std::optional<LRESULT> Win32ComboBox::onMessage(UINT message, WPARAM wParam, LPA
     return done;
   }
   return std::nullopt;
+}
+
+// What was typed with another key in between begins anew, so that nobody gets an item of two words.
+void Win32ComboBox::searchFor(wchar_t character) {
+  const int found =
+      typeAhead_.type(fromWide({&character, 1}), timeOfTyping(),
+                      {.count = itemCount(), .current = index_, .text = [this](int item) { return itemText(item); }});
+  if (found < 0 || found == index_) return;
+  picked_ = found;
+  post(Picked);
 }
 
 // What a paste brings along stands on one line.
@@ -136,11 +156,7 @@ void Win32ComboBox::onCommand(int notification) {
 
 void Win32ComboBox::onPosted(int what) {
   if (what == MaybeLeft) {
-    // A list of its own, a menu, or another window in front does not count.
-    const HWND focus = GetFocus();
-    const bool stays = focus == nullptr || focus == handle() || IsChild(handle(), focus) != FALSE ||
-                       GetAncestor(focus, GA_ROOT) != GetAncestor(handle(), GA_ROOT);
-    if (!stays) tell(events_.LostFocus);
+    if (hasLostFocusToControl(handle())) tell(events_.LostFocus);
     return;
   }
   const int picked = std::exchange(picked_, -1);

@@ -4,10 +4,12 @@
 #include <utility>
 #include <vector>
 
+#include "kit/TypeAhead.h"
 #include "platform/ComboBox.h"
 #include "platform/CommandGate.h"
 #include "text/FirstIndex.h"
 #include "win32/NativeWindow.h"
+#include "win32/Typing.h"
 
 namespace mavCycEd::win32 {
 
@@ -45,6 +47,7 @@ class Win32ComboBox : public platform::ComboBox, public NativeWindow {
   void show(int index, std::string text);
   void showNow();
   void takeTyped(const std::string& typed);
+  void searchFor(wchar_t character);
   void fitList();
 
   const platform::CommandGate& gate_;
@@ -56,6 +59,7 @@ class Win32ComboBox : public platform::ComboBox, public NativeWindow {
   std::string text_;
   bool showing_ = false;
   int picked_ = -1;  // by the user, and not told yet
+  kit::TypeAhead typeAhead_{typingPause};
 };
 
 }  // namespace mavCycEd::win32

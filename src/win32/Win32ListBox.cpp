@@ -159,7 +159,7 @@ std::optional<LRESULT> Win32ListBox::onMessage(UINT message, WPARAM wParam, LPAR
       const bool isEnter = asked != nullptr && asked->wParam == VK_RETURN && onReturn_ != nullptr;
       return callSystem(message, wParam, lParam) | (isEnter ? DLGC_WANTMESSAGE : 0);
     }
-    case WM_CHAR: return searchFor(static_cast<wchar_t>(wParam)) ? std::optional<LRESULT>(0) : std::nullopt;
+    case WM_CHAR: searchFor(static_cast<wchar_t>(wParam)); return 0;
     case WM_KEYDOWN: return onKey(message, wParam, lParam);
     default: return std::nullopt;
   }
@@ -186,30 +186,12 @@ std::optional<LRESULT> Win32ListBox::onKey(UINT message, WPARAM wParam, LPARAM l
   return 0;
 }
 
-// The next item that begins with what is typed without a pause. The same character again and again goes from one item
-// to the next.
-bool Win32ListBox::searchFor(wchar_t character) {
-  if (character <= L' ' || itemCount() == 0) return true;
-  constexpr ULONGLONG pause = 1000;
-  const ULONGLONG now = GetTickCount64();
-  if (now - searchedAt_ > pause) searched_.clear();
-  searchedAt_ = now;
-  CharUpperBuffW(&character, 1);
-  searched_ += character;
-  const bool isOne = searched_.find_first_not_of(character) == std::wstring::npos;
-  const std::wstring wanted = isOne ? std::wstring(1, character) : searched_;
-  const int count = itemCount();
-  const int first = std::max(index(), 0) + (isOne && index() >= 0 ? 1 : 0);
-  for (int step = 0; step < count; ++step) {
-    const int found = (first + step) % count;
-    constexpr std::size_t bytesPerCharacter = 4;
-    std::wstring text = toWide(itemText(found).substr(0, bytesPerCharacter * wanted.size())).substr(0, wanted.size());
-    CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
-    if (text != wanted) continue;
-    if (found != index() || isOne) choose(found);
-    return true;
-  }
-  return true;
+void Win32ListBox::searchFor(wchar_t character) {
+  if (character <= L' ') return;
+  const int found =
+      typeAhead_.type(fromWide({&character, 1}), timeOfTyping(),
+                      {.count = itemCount(), .current = index(), .text = [this](int item) { return itemText(item); }});
+  if (found >= 0 && found != index()) choose(found);
 }
 
 void Win32ListBox::onDraw(const DRAWITEMSTRUCT& item) {

@@ -10,11 +10,13 @@
 #include "kit/LineCount.h"
 #include "kit/ListItems.h"
 #include "kit/SelectionRanges.h"
+#include "kit/TypeAhead.h"
 #include "platform/CommandGate.h"
 #include "platform/ItemListBox.h"
 #include "platform/LineListBox.h"
 #include "win32/Accessible.h"
 #include "win32/NativeWindow.h"
+#include "win32/Typing.h"
 
 namespace mavCycEd::win32 {
 
@@ -80,7 +82,7 @@ class Win32ListBox : public virtual platform::ListBox, public NativeWindow {
   int itemAt(LPARAM place) const;
   void press(LPARAM place);
   std::optional<LRESULT> onKey(UINT message, WPARAM wParam, LPARAM lParam);
-  bool searchFor(wchar_t character);
+  void searchFor(wchar_t character);
   void choose(int index);
   void raiseClick();
   void applyItemFont();
@@ -88,8 +90,7 @@ class Win32ListBox : public virtual platform::ListBox, public NativeWindow {
   const platform::CommandGate& gate_;
   platform::ListBoxEvents events_;
   kit::SelectionRanges selection_;
-  std::wstring searched_;  // what was typed without a pause
-  ULONGLONG searchedAt_ = 0;
+  kit::TypeAhead typeAhead_{typingPause};
   std::function<void()> onDelete_;
   std::function<void()> onReturn_;
   std::optional<platform::Font> itemFont_;

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <utility>
 
+#include "kit/CaretPlace.h"
 #include "text/LineEnds.h"
 #include "win32/Text.h"
 
@@ -12,6 +14,9 @@ namespace {
 
 constexpr WPARAM controlA = 1;  // as the character that Ctrl+A types
 
+/// What the box tells itself when the message at hand has been dealt with.
+enum Posted : int { Changed, MaybeLeft };
+
 NativeWindow::Kind kindOf(Win32TextBox::Lines lines, bool wraps) {
   DWORD style = WS_TABSTOP | ES_AUTOHSCROLL;
   if (lines == Win32TextBox::Lines::Several) {
@@ -19,6 +24,13 @@ NativeWindow::Kind kindOf(Win32TextBox::Lines lines, bool wraps) {
     if (!wraps) style |= ES_AUTOHSCROLL | WS_HSCROLL;
   }
   return {L"EDIT", style, WS_EX_CLIENTEDGE};
+}
+
+// The system's own undo, however it is asked for: its key, its menu, its messages.
+bool isUndo(UINT message, WPARAM wParam) {
+  constexpr WPARAM controlZ = 26;  // as the character that Ctrl+Z types
+  return message == WM_UNDO || message == EM_UNDO || message == EM_CANUNDO ||
+         (message == WM_CHAR && wParam == controlZ);
 }
 
 // Wrapping such a line may take the system the square of its length.
@@ -55,11 +67,21 @@ void Win32TextBox::wrapFor(std::string_view text) {
 }
 
 void Win32TextBox::setText(std::string_view text) {
-  text_ = lines_ == Lines::One ? std::string(text) : text::toCrLf(text);
+  std::string next = lines_ == Lines::One ? std::string(text) : text::toCrLf(text);
+  if (lines_ == Lines::Several && next == text_) return;
+  const std::size_t caret = lines_ == Lines::One ? 0 : kit::caretBehindChange(text_, next);
+  text_ = std::move(next);
   settingText_ = true;
   wrapFor(text_);
   NativeWindow::setText(toWide(text_));
   settingText_ = false;
+  if (lines_ == Lines::Several) putCaretBehind(std::string_view(text_).substr(0, caret));
+}
+
+void Win32TextBox::putCaretBehind(std::string_view text) const {
+  const std::size_t place = toWide(text).size();
+  send(EM_SETSEL, place, static_cast<LPARAM>(place));
+  send(EM_SCROLLCARET);
 }
 
 void Win32TextBox::focusAndSelectAll() {
@@ -69,6 +91,7 @@ void Win32TextBox::focusAndSelectAll() {
 }
 
 std::optional<LRESULT> Win32TextBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (lines_ == Lines::Several && isUndo(message, wParam)) return 0;
   if (message == WM_CHAR && wParam == controlA) {
     send(EM_SETSEL, 0, -1);
     return 0;
@@ -84,18 +107,26 @@ std::optional<LRESULT> Win32TextBox::onMessage(UINT message, WPARAM wParam, LPAR
 }
 
 void Win32TextBox::onCommand(int notification) {
+  if (notification == EN_KILLFOCUS) post(MaybeLeft);
   if (notification != EN_CHANGE || settingText_) return;
   const std::string shown = fromWide(textOf(handle()));
-  text_ = lines_ == Lines::One ? text::onOneLine(shown) : text::toCrLf(shown);
+  text_ = lines_ == Lines::One ? text::onOneLine(shown) : text::typedToCrLf(shown);
+  if (lines_ == Lines::Several) send(EM_EMPTYUNDOBUFFER);
   if (lines_ == Lines::One && text_ != shown) {
     settingText_ = true;
     NativeWindow::setText(toWide(text_));
     settingText_ = false;
     send(EM_SETSEL, text_.size(), static_cast<LPARAM>(text_.size()));
   }
-  post(0);
+  post(Changed);
 }
 
-void Win32TextBox::onPosted(int) { tell(events_.Change); }
+void Win32TextBox::onPosted(int what) {
+  if (what == Changed) {
+    tell(events_.Change);
+  } else if (hasLostFocusToControl(handle())) {
+    tell(events_.LostFocus);
+  }
+}
 
 }  // namespace mavCycEd::win32

@@ -30,6 +30,7 @@ class Win32TextBox : public platform::TextBox, public NativeWindow {
  private:
   void takeLongTexts() const;
   void wrapFor(std::string_view text);
+  void putCaretBehind(std::string_view text) const;
 
   Lines lines_;
   bool wraps_;

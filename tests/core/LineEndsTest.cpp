@@ -9,9 +9,14 @@ TEST(LineEnds, EveryLineEndBecomesCarriageReturnAndLineFeed) {
   EXPECT_EQ(toCrLf("a\nb"), "a\r\nb");
   EXPECT_EQ(toCrLf("a\rb"), "a\r\nb");
   EXPECT_EQ(toCrLf("a\r\nb"), "a\r\nb");
-  EXPECT_EQ(toCrLf("a\u2028b\u2029c"), "a\r\nb\r\nc");
-  EXPECT_EQ(toCrLf("a\uFDD0b\uFDD1c"), "a\r\nb\r\nc");
   EXPECT_EQ(toCrLf("\n"), "\r\n");
+}
+
+TEST(LineEnds, TypedOnesAreMore) {
+  EXPECT_EQ(typedToCrLf("a\nb\rc\r\nd"), "a\r\nb\r\nc\r\nd");
+  EXPECT_EQ(typedToCrLf("a\u2028b\u2029c"), "a\r\nb\r\nc");
+  EXPECT_EQ(typedToCrLf("a\uFDD0b\uFDD1c"), "a\r\nb\r\nc");
+  EXPECT_EQ(toCrLf("a\u2028b\u2029c\uFDD0d\uFDD1"), "a\u2028b\u2029c\uFDD0d\uFDD1");
 }
 
 TEST(LineEnds, TwoLineEndsStayTwo) {
@@ -24,6 +29,7 @@ TEST(LineEnds, TwoLineEndsStayTwo) {
 TEST(LineEnds, OtherCharactersAreNoLineEnds) {
   for (const char* text : {"", "Größe µl", "\u2027\u202A", "\uFDD2\uFDCF", "\v\f", "\u0085", "\xE2\x80", "\xEF\xB7"}) {
     EXPECT_EQ(toCrLf(text), text);
+    EXPECT_EQ(typedToCrLf(text), text);
   }
 }
 

@@ -312,9 +312,9 @@ TEST(MemoryTimer, TicksOnlyWhileItIsOn) {
 TEST(MemoryTextBox, HasCarriageReturnsAndLineFeedsWhateverWasSet) {
   MemoryTextBox box(nullptr);
   box.setText("a\nb\rc\u2028d");
-  EXPECT_EQ(box.text(), "a\r\nb\r\nc\r\nd");
-  box.replace("x\ny");
-  EXPECT_EQ(box.text(), "x\r\ny");
+  EXPECT_EQ(box.text(), "a\r\nb\r\nc\u2028d");
+  box.replace("x\ny\u2028z");
+  EXPECT_EQ(box.text(), "x\r\ny\r\nz");
 }
 
 TEST(MemoryTextBox, OfOneLineTakesNoLineEndsFromItsUser) {
@@ -323,6 +323,14 @@ TEST(MemoryTextBox, OfOneLineTakesNoLineEndsFromItsUser) {
   EXPECT_EQ(box.text(), "a\nb") << "as it was set";
   box.replace("x\r\ny\tz");
   EXPECT_EQ(box.text(), "x y z");
+}
+
+TEST(MemoryTextBox, TellsWhenTheFocusLeaves) {
+  MemoryTextBox box(nullptr);
+  int left = 0;
+  box.setEvents({.Change = {}, .LostFocus = [&left] { ++left; }});
+  box.leave();
+  EXPECT_EQ(left, 1);
 }
 
 TEST(MemoryTextBox, OnlyTheUserRaisesChange) {

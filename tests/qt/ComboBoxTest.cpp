@@ -176,5 +176,21 @@ TEST_P(TypedComboBox, EnterAddsNoItemAndTakesNoSimilarOne) {
   EXPECT_THAT(told(), IsEmpty());
 }
 
+TEST(PickOnlyComboBox, TypingAheadBeginsAnewBehindAnAccessKey) {
+  QWidget window;
+  const platform::CommandGate gate;
+  qt::QtComboBox combo(gate, qt::QtComboBox::Mode::PickOnly, "combo", &window);
+  combo.assign({"ASPIRATE", "WAIT", "WASH"});
+  std::vector<std::string> picks;
+  combo.setEvents({.Click = [&] { picks.push_back(combo.text()); }, .LostFocus = {}});
+  showActive(window);
+  combo.widget()->setFocus();
+  QTest::keyClicks(combo.widget(), "was");
+  EXPECT_THAT(picks, testing::ElementsAre("WAIT", "WASH"));
+  QTest::keyClick(combo.widget(), Qt::Key_S, Qt::AltModifier);
+  QTest::keyClicks(combo.widget(), "a");
+  EXPECT_EQ(combo.text(), "ASPIRATE");
+}
+
 }  // namespace
 }  // namespace mavCycEd::test

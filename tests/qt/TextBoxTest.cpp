@@ -3,8 +3,14 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QMenu>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
+#include <memory>
+#include <string>
 
+#include "TestWindow.h"
 #include "qt/QtLineBox.h"
 #include "qt/QtTextBox.h"
 
@@ -49,7 +55,7 @@ TYPED_TEST(AnyTextBox, EveryEditOfTheUserIsAChange) {
 }
 
 TYPED_TEST(AnyTextBox, SetTextIsReadBackAsItWas) {
-  for (const char* text : {"caf\xC3\xA9", "non-breaking\xC2\xA0space", "a\xFF", "\xEF\xBF\xBC", ""}) {
+  for (const char* text : {"caf\xC3\xA9", "non-breaking\xC2\xA0space", "a\xFF", "\xEF\xBF\xBC", "\uFEFFmarked", ""}) {
     this->box.setText(text);
     EXPECT_EQ(this->box.text(), text);
   }
@@ -65,6 +71,22 @@ TYPED_TEST(AnyTextBox, ComposedTextCountsWhenItIsEntered) {
   QCoreApplication::sendEvent(this->box.widget(), &entering);
   EXPECT_EQ(this->changes, 1);
   EXPECT_EQ(this->box.text(), "か");
+}
+
+TYPED_TEST(AnyTextBox, LeavingForAnotherControlIsTold) {
+  int left = 0;
+  this->box.setEvents({.Change = {}, .LostFocus = [&left] { ++left; }});
+  QLineEdit other(&this->window);
+  other.show();
+  for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason}) {
+    QFocusEvent forAWhile(QEvent::FocusOut, reason);
+    QCoreApplication::sendEvent(this->box.widget(), &forAWhile);
+  }
+  EXPECT_EQ(left, 0);
+  showActive(this->window);
+  this->box.widget()->setFocus();
+  other.setFocus();
+  EXPECT_EQ(left, 1);
 }
 
 TYPED_TEST(AnyTextBox, FocusAndSelectAllIsReadyToBeTypedOver) {
@@ -101,13 +123,51 @@ TEST_F(TextBoxOfLines, TypingKeepsNonBreakingBlanks) {
   EXPECT_EQ(box.text(), "10\xC2\xA0ul!");
 }
 
-TEST_F(TextBoxOfLines, UndoIsAnEditToo) {
-  box.setText("a");
-  QTest::keyClick(box.widget(), Qt::Key_End);
-  QTest::keyClicks(box.widget(), "b");
-  QTest::keyClick(box.widget(), Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(box.text(), "a");
-  EXPECT_EQ(changes, 2);
+TEST_F(TextBoxOfLines, HasNoUndoOfItsOwn) {
+  class Around : public QWidget {
+   public:
+    int keys = 0;
+
+   protected:
+    void keyPressEvent(QKeyEvent* event) override { keys += event->key() == Qt::Key_Z ? 1 : 0; }
+  } around;
+  qt::QtTextBox inside("inside", &around);
+  inside.setText("a");
+  QTest::keyClicks(inside.widget(), "b");
+  EXPECT_FALSE(inside.widget()->document()->isUndoAvailable());
+  QKeyEvent claimed(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+  QCoreApplication::sendEvent(inside.widget(), &claimed);
+  EXPECT_FALSE(claimed.isAccepted()) << "left to whoever has a meaning for it";
+  QTest::keyClick(inside.widget(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(inside.text(), "ba");
+  EXPECT_EQ(around.keys, 1);
+  const std::unique_ptr<QMenu> menu(inside.widget()->createStandardContextMenu());
+  EXPECT_FALSE(menu->actions().first()->isEnabled()) << "Undo";
+}
+
+TEST_F(TextBoxOfLines, AnotherTextKeepsTheChangeInView) {
+  std::string lines;
+  for (int i = 0; i < 200; ++i) lines += "line " + std::to_string(i) + "\r\n";
+  box.widget()->resize(200, 100);
+  box.setText(lines);
+  EXPECT_EQ(box.widget()->textCursor().position(), 0) << "another text is shown from its start";
+  std::string changed = lines;
+  const std::size_t place = changed.find("line 150") + 5;
+  changed.insert(place, "\u00E4");
+  box.setText(changed);
+  EXPECT_EQ(box.widget()->textCursor().block().text(), QStringLiteral("line \u00E4150"));
+  EXPECT_EQ(box.widget()->textCursor().positionInBlock(), 6);
+  EXPECT_TRUE(box.widget()->viewport()->rect().intersects(box.widget()->cursorRect()));
+  EXPECT_GT(box.widget()->verticalScrollBar()->value(), 100);
+}
+
+TEST_F(TextBoxOfLines, LoadedCharactersThatTypedOnesWouldEndALineStay) {
+  const std::string loaded = "a\u2028b\u2029c\uFDD0d\uFDD1e";
+  box.setText(loaded);
+  EXPECT_EQ(box.text(), loaded);
+  QTest::keyClick(box.widget(), Qt::Key_End, Qt::ControlModifier);
+  QTest::keyClicks(box.widget(), "f");
+  EXPECT_EQ(box.text(), "a\r\nb\r\nc\r\nd\r\nef") << "what a person edits has lines";
 }
 
 TEST_F(TextBoxOfLines, TabLeavesTheBox) { EXPECT_TRUE(box.widget()->tabChangesFocus()); }
