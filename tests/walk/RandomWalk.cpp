@@ -116,6 +116,10 @@ std::string RandomWalk::nextStep() {
   const nlohmann::json popup = written(answer_, "popup");
   if (popup.is_array() && !popup.empty() && upTo(3) > 0) return stepInPopup(static_cast<int>(popup.size()));
   if (inDialog) return stepInDialog();
+  if (goesBack_) {
+    goesBack_ = canDo("undo");
+    return goesBack_ ? "undo" : "CycleChanged";
+  }
   // Whether a cycle reads changed behind its load is what it has to read when all steps are undone.
   if (loaded_ && upTo(1) == 0) return "CycleChanged";
   // What was just handed back comes again.
@@ -140,7 +144,9 @@ bool RandomWalk::canDo(const char* direction) const {
   return history.is_object() && !history[direction].is_null();
 }
 
+// Single steps, or all the way back.
 std::string RandomWalk::stepInHistory() {
+  goesBack_ = upTo(9) == 0;
   if (upTo(2) > 0 && canDo("undo")) return "undo";
   return canDo("redo") ? "redo" : "tick";
 }

@@ -61,6 +61,7 @@ class RandomWalk : public play::StepSource {
   int stepsInDialog_ = 0;
   int lines_ = 0;
   bool loaded_ = true;               // the last step loaded a cycle
+  bool goesBack_ = false;            // all steps are undone now
   bool undone_ = false;              // the walk is at its end, and all its steps are undone
   bool handedBack_ = false;          // the walk is at its end
   bool answered_ = false;            // what the last step wrote has been looked at
