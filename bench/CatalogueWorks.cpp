@@ -1,5 +1,7 @@
 #include <malloc.h>
 
+#include <algorithm>
+#include <limits>
 #include <memory>
 #include <string>
 
@@ -28,7 +30,7 @@ std::function<double()> loadingAMacro(int lines) {
   return [lines, macro = macroOf(lines)] {
     Editor editor;
     editor.control().SetConfigXML(instrument().configuration);
-    return secondsOf([&] { editor.control().SetXMLStrings(instrument().catalogue, macro); });
+    return processorSecondsOf([&] { editor.control().SetXMLStrings(instrument().catalogue, macro); });
   };
 }
 
@@ -39,23 +41,25 @@ double bytesAfterLoading(int lines) {
   return bytesInUse() - before;
 }
 
-/// The memory in use before and after lines were selected to and fro.
-struct Selections {
-  double before = 0;
-  double after = 0;
-};
-
-Selections bytesOverSelections(int lines, int selections) {
+// How many bytes more are in use behind so many selections to and fro than before them. A selection that keeps anything
+// keeps it every time; what else comes and goes in a process (buffers that reach their size, what the heap holds ready
+// for the next allocation) comes once. So there are selections before the first reading, and the least of several
+// growths counts.
+double bytesKeptBySelections(int lines, int selections) {
   const std::unique_ptr<Editor> editor = loadedEditor(cycleOf(lines));
   platform::ListBox& list = editor->screen().lstAtomSequence;
-  const auto select = [&](int times) {
-    for (int i = 0; i < times; ++i) list.setIndex(i % 2 == 0 ? lines / 2 : lines / 3);
+  const auto select = [&] {
+    for (int i = 0; i < selections; ++i) list.setIndex(i % 2 == 0 ? lines / 2 : lines / 3);
   };
-  select(10);
-  Selections bytes{.before = bytesInUse(), .after = 0};
-  select(selections);
-  bytes.after = bytesInUse();
-  return bytes;
+  select();
+  constexpr int readings = 3;
+  double least = std::numeric_limits<double>::infinity();
+  for (int i = 0; i < readings; ++i) {
+    const double before = bytesInUse();
+    select();
+    least = std::min(least, std::max(bytesInUse() - before, 0.0));
+  }
+  return least;
 }
 
 }  // namespace
@@ -71,7 +75,8 @@ void addCatalogueWorks() {
              .lines = lines,
              .target = 2.3,
              .ours = loadingAMacro(2 * lines),
-             .yardstick = loadingAMacro(lines)});
+             .yardstick = loadingAMacro(lines),
+             .paired = true});
   }
   for (const int lines : sizes) {
     compare({.work = "memory after loading, against the size of the text",
@@ -82,11 +87,11 @@ void addCatalogueWorks() {
              .timed = false});
   }
   constexpr int selections = 10000;
-  compare({.work = "memory after 10,000 selections to and fro, against before",
+  compare({.work = "memory kept by 10,000 selections to and fro, against a byte each",
            .lines = 1000,
            .target = 1.0,
-           .ours = [] { return bytesOverSelections(1000, selections).after; },
-           .yardstick = [] { return bytesOverSelections(1000, selections).before; },
+           .ours = [] { return bytesKeptBySelections(1000, selections); },
+           .yardstick = [] { return static_cast<double>(selections); },
            .timed = false});
 }
 

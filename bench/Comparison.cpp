@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <map>
 #include <regex>
 #include <utility>
@@ -14,7 +15,11 @@
 namespace mavCycEd::bench {
 namespace {
 
+using Work = std::function<double()>;
+
 constexpr int repetitions = 5;
+// The ratio of a pair is held to a target nearby: both have to come by a quiet moment.
+constexpr int pairedRepetitions = 8;
 
 std::vector<Comparison>& rows() {
   static std::vector<Comparison> all;
@@ -22,28 +27,33 @@ std::vector<Comparison>& rows() {
 }
 
 /// The shortest time that each piece of work took: what disturbs a run only ever makes it longer. 0: it did not run.
-using Shortest = std::map<const std::function<double()>*, double>;
+using Shortest = std::map<const Work*, double>;
 
 Shortest& shortest() {
   static Shortest times;
   return times;
 }
 
-void measure(benchmark::State& state, const std::function<double()>& work) {
-  for ([[maybe_unused]] const auto _ : state) {
-    const double seconds = work();
-    state.SetIterationTime(seconds);
-    double& known = shortest()[&work];
-    known = known == 0 ? seconds : std::min(known, seconds);
-  }
+double measured(const Work& work) {
+  const double seconds = work();
+  double& known = shortest()[&work];
+  known = known == 0 ? seconds : std::min(known, seconds);
+  return seconds;
 }
 
-// What is enlisted stays so to the end of the program: `work`, and what it holds, must not.
-void enlist(const std::string& name, const std::function<double()>& work) {
-  benchmark::RegisterBenchmark(name.c_str(), [&work](benchmark::State& state) { measure(state, work); })
+// What is enlisted stays so to the end of the program: the works, and what they hold, must not.
+void enlist(const std::string& name, std::vector<const Work*> works, int times) {
+  benchmark::RegisterBenchmark(name.c_str(),
+                               [works = std::move(works)](benchmark::State& state) {
+                                 for ([[maybe_unused]] const auto _ : state) {
+                                   double seconds = 0;
+                                   for (const Work* work : works) seconds += measured(*work);
+                                   state.SetIterationTime(seconds);
+                                 }
+                               })
       ->UseManualTime()
       ->MinTime(0.05)
-      ->Repetitions(repetitions);
+      ->Repetitions(times);
 }
 
 /// The table is ours.
@@ -69,11 +79,26 @@ double secondsOf(const std::function<void()>& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+double processorSecondsOf(const std::function<void()>& work) {
+  const auto now = [] {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::duration<double>(std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
+  };
+  const auto start = now();
+  work();
+  return (now() - start).count();
+}
+
 std::vector<Result> runComparisons() {
   for (const Comparison& row : rows()) {
     if (!row.timed) continue;
-    enlist(nameOf(row, "ours"), row.ours);
-    enlist(nameOf(row, "yardstick"), row.yardstick);
+    if (row.paired) {
+      enlist(nameOf(row, "ours, yardstick"), {&row.ours, &row.yardstick}, pairedRepetitions);
+    } else {
+      enlist(nameOf(row, "ours"), {&row.ours}, repetitions);
+      enlist(nameOf(row, "yardstick"), {&row.yardstick}, repetitions);
+    }
   }
   Silence silence;
   benchmark::RunSpecifiedBenchmarks(&silence);

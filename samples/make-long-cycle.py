@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Writes a long cycle for catalogue.xml and configuration.xml, the same one every time.
 
-`make-long-cycle.py` writes cycle-1000.xml beside itself; `--lines` and `--output` make others, up to the very long
-ones that show how the editor scales.
+`make-long-cycle.py --output cycle-1000.xml` makes the sample of this name; `--lines` makes others, up to the very long
+ones that show how the editor scales. Without `--output` the cycle goes to the standard output.
 """
 
 import argparse
@@ -116,14 +116,17 @@ def cycle(description, variables, atoms):
 def main():
     parser = argparse.ArgumentParser(description=__doc__.partition("\n")[0])
     parser.add_argument("--lines", type=int, default=1000, help="how many atom lines (default: %(default)s)")
-    parser.add_argument("--output", type=pathlib.Path, default=pathlib.Path(__file__).with_name("cycle-1000.xml"),
-                        help="the file to write (default: cycle-1000.xml beside this program)")
+    parser.add_argument("--output", type=pathlib.Path, help="the file to write (default: the standard output)")
     arguments = parser.parse_args()
     if arguments.lines < SHORTEST:
         parser.error(f"--lines: {SHORTEST} is the least")
+    written = cycle(DESCRIPTION, VARIABLES, sequence(arguments.lines)).encode("utf-8")
     try:
-        arguments.output.write_text(cycle(DESCRIPTION, VARIABLES, sequence(arguments.lines)), encoding="utf-8",
-                                    newline="\n")
+        if arguments.output is None:
+            sys.stdout.buffer.write(written)
+            sys.stdout.buffer.flush()
+        else:
+            arguments.output.write_bytes(written)
     except OSError as error:
         sys.exit(f"The cycle could not be written: {error}")
 

@@ -107,9 +107,11 @@ void CycleDocument::keep(Step&& step) {
   const bool isStretch = openKind_ == Transaction::Kind::Stretch;
   if (isStretch && stretchIsOpen_ && !done_.empty() && done_.back().name == step.name) {
     joinStretch(done_.back(), std::move(step));
-    if (done_.back().edit.empty()) {  // what was typed has been taken out again
+    if (done_.back().edit.empty()) {  // what was typed has been taken out again; what follows joins no older stretch
       revision_ = done_.back().revisionBefore;
       done_.pop_back();
+      stretchIsOpen_ = false;
+      return;
     }
   } else {
     done_.push_back(std::move(step));

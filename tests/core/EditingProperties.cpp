@@ -110,14 +110,6 @@ bool sameLines(const std::vector<Line>& a, const std::vector<Line>& b) {
   });
 }
 
-/// Gives every position something that stays there.
-void markPositions(TestEditor& editor) {
-  for (std::size_t i = 0; i < editor.control().cycle().lines.size(); ++i) {
-    const std::string number = std::to_string(i + 1);
-    editor.control().document().perform(edits::setPlace(i, {"d" + number, "g" + number}));
-  }
-}
-
 /// What the step does to the sequence; it is told before the editor is.
 void tell(Model& model, const Step& step, TestEditor& editor) {
   const int count = static_cast<int>(model.lines().size());

@@ -19,9 +19,10 @@ using rc::gen::resize;
 using rc::gen::suchThat;
 using rc::gen::weightedElement;
 
-constexpr std::array<std::string_view, 13> kindNames = {"Choose",  "Type",       "Pick",    "Default",     "Insert",
-                                                        "Replace", "Delete",     "Select",  "DoubleClick", "Describe",
-                                                        "Tick",    "AskChanged", "Retrieve"};
+constexpr std::array<std::string_view, 19> kindNames = {
+    "Choose",      "Type",         "Pick",         "Default", "Insert",     "Replace",  "Delete",
+    "Select",      "DoubleClick",  "Describe",     "Tick",    "AskChanged", "Retrieve", "SelectVariable",
+    "NewVariable", "EditVariable", "DropVariable", "Undo",    "Redo"};
 
 /// A text of up to `length` of these pieces.
 rc::Gen<std::string> textOfPieces(std::vector<std::string> pieces, int length) {
@@ -64,21 +65,8 @@ rc::Gen<CycleLine> lines() {
   });
 }
 
-rc::Gen<Step> step() {
+rc::Gen<Step> stepOf(const rc::Gen<Step::Kind>& kinds) {
   using Kind = Step::Kind;
-  const auto kinds = weightedElement<Kind>({{6, Kind::Choose},
-                                            {4, Kind::Type},
-                                            {2, Kind::Pick},
-                                            {1, Kind::Default},
-                                            {8, Kind::Insert},
-                                            {3, Kind::Replace},
-                                            {3, Kind::Delete},
-                                            {5, Kind::Select},
-                                            {1, Kind::DoubleClick},
-                                            {2, Kind::Describe},
-                                            {1, Kind::Tick},
-                                            {1, Kind::AskChanged},
-                                            {1, Kind::Retrieve}});
   return rc::gen::mapcat(kinds, [](Kind kind) {
     const auto texts = kind == Kind::Describe ? carriedDescription()
                        : kind == Kind::Type ? textOfPieces({"a", "1", " ", "ä", "µ", ";", "<", "&", "(", "/", ","}, 6)
@@ -87,6 +75,52 @@ rc::Gen<Step> step() {
       return Step{kind, rest.first, std::move(rest.second)};
     });
   });
+}
+
+rc::Gen<Step> step() {
+  using Kind = Step::Kind;
+  return stepOf(weightedElement<Kind>({{6, Kind::Choose},
+                                       {4, Kind::Type},
+                                       {2, Kind::Pick},
+                                       {1, Kind::Default},
+                                       {8, Kind::Insert},
+                                       {3, Kind::Replace},
+                                       {3, Kind::Delete},
+                                       {5, Kind::Select},
+                                       {1, Kind::DoubleClick},
+                                       {2, Kind::Describe},
+                                       {1, Kind::Tick},
+                                       {1, Kind::AskChanged},
+                                       {1, Kind::Retrieve}}));
+}
+
+rc::Gen<Step> stepOnAll() {
+  using Kind = Step::Kind;
+  return stepOf(weightedElement<Kind>({{5, Kind::Choose},
+                                       {2, Kind::Type},
+                                       {6, Kind::Insert},
+                                       {4, Kind::Replace},
+                                       {4, Kind::Delete},
+                                       {4, Kind::Select},
+                                       {1, Kind::DoubleClick},
+                                       {4, Kind::Describe},
+                                       {1, Kind::Tick},
+                                       {1, Kind::AskChanged},
+                                       {3, Kind::SelectVariable},
+                                       {4, Kind::NewVariable},
+                                       {3, Kind::EditVariable},
+                                       {3, Kind::DropVariable},
+                                       {5, Kind::Undo},
+                                       {3, Kind::Redo}}));
+}
+
+// A user of the variable dialog who makes a variable of a number, and now and then thinks better of it.
+void workInDialog(const Step& step, memory::MemoryVariableDialogControls& dialog) {
+  const std::string number = std::to_string(step.number % 7);
+  if (dialog.txtParamName.isUsable()) dialog.txtParamName.replace("V" + number);
+  for (int row = 1; row <= 3 && dialog.optNrValue.value(); ++row) dialog.grdParamStnd.type(row, number);
+  if (step.number % 5 > 0) dialog.OKButton.press();
+  if (dialog.frmparams.isLoaded()) dialog.cmdCancel.press();
 }
 
 }  // namespace
@@ -179,11 +213,22 @@ rc::Gen<CycleOf> cycles() {
 }
 
 rc::Gen<std::vector<Step>> steps() { return resize(40, rc::gen::container<std::vector<Step>>(step())); }
+rc::Gen<std::vector<Step>> stepsOnAll() { return resize(40, rc::gen::container<std::vector<Step>>(stepOnAll())); }
+
+void markPositions(TestEditor& editor) {
+  const CycleDocument::Loading loading(editor.control().document());
+  for (std::size_t i = 0; i < editor.control().cycle().lines.size(); ++i) {
+    const std::string number = std::to_string(i + 1);
+    editor.control().document().perform(edits::setPlace(i, {"d" + number, "g" + number}));
+  }
+}
 
 void perform(const Step& step, TestEditor& editor) {
   memory::MemoryScreen& screen = editor.screen();
   const int lineCount = screen.lstAtomSequence.itemCount();
   const int rowCount = screen.GrdAtom.RowCount() - 1;
+  const int variableCount = screen.lstVariables.itemCount();
+  screen.variableDialogs.setUser([&step](auto& dialog) { workInDialog(step, dialog); });
   switch (step.kind) {
     case Step::Kind::Choose: screen.cboAtom.setIndex(step.number % screen.cboAtom.itemCount()); break;
     case Step::Kind::Type:
@@ -208,7 +253,16 @@ void perform(const Step& step, TestEditor& editor) {
     case Step::Kind::Tick: screen.tmrUpdateGrid.fire(); break;
     case Step::Kind::AskChanged: editor.control().CycleChanged(); break;
     case Step::Kind::Retrieve: editor.control().RetrieveCycle(); break;
+    case Step::Kind::SelectVariable: screen.lstVariables.setIndex(step.number % (variableCount + 1) - 1); break;
+    case Step::Kind::NewVariable: screen.cmdIns.press(); break;
+    case Step::Kind::EditVariable:
+      if (variableCount > 0) screen.lstVariables.doubleClick(step.number % variableCount);
+      break;
+    case Step::Kind::DropVariable: screen.cmdDel.press(); break;
+    case Step::Kind::Undo: editor.control().Undo(); break;
+    case Step::Kind::Redo: editor.control().Redo(); break;
   }
+  screen.variableDialogs.setUser({});
 }
 
 }  // namespace mavCycEd::test

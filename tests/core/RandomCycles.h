@@ -27,7 +27,13 @@ struct Step {
     Describe,
     Tick,
     AskChanged,
-    Retrieve
+    Retrieve,
+    SelectVariable,
+    NewVariable,
+    EditVariable,
+    DropVariable,
+    Undo,
+    Redo
   };
   Kind kind = Kind::Insert;
   int number = 0;    ///< the item, row or line, counted round
@@ -46,9 +52,13 @@ rc::Gen<std::string> carriedText();
 rc::Gen<std::string> carriedDescription();
 /// A cycle of up to 30 lines, of any version, with names of the catalogue and others.
 rc::Gen<CycleOf> cycles();
-/// Up to 40 steps.
+/// Up to 40 steps on the sequence and the description.
 rc::Gen<std::vector<Step>> steps();
+/// Up to 40 steps on all of a cycle, without handing it back.
+rc::Gen<std::vector<Step>> stepsOnAll();
 
+/// Gives every position of the loaded cycle something that stays there: a duration and a group index.
+void markPositions(TestEditor& editor);
 /// Does what a step says, where there is something to do it with.
 void perform(const Step& step, TestEditor& editor);
 

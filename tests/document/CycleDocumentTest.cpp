@@ -174,6 +174,16 @@ TEST_F(CycleDocumentTest, AStretchThatEndsWhereItBeganIsNoStep) {
   EXPECT_EQ(document_.revision(), before);
 }
 
+TEST_F(CycleDocumentTest, BehindAStretchThatEndsWhereItBeganTypingJoinsNoOlderOne) {
+  type("a");
+  document_.sealStretch();
+  type("ab");
+  type("a");
+  type("ac");
+  document_.undo();
+  EXPECT_EQ(document_.cycle().description, "a");
+}
+
 TEST_F(CycleDocumentTest, KeepsTheLastTenThousandSteps) {
   constexpr int kept = 10'000;
   for (int i = 0; i < kept + 5; ++i) insert(0, std::to_string(i));

@@ -10,6 +10,7 @@ import argparse
 import json
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -130,11 +131,20 @@ class Samples:
                     self.complain(f"{name}: nothing to choose from in {row}")
 
     def check_long_cycle(self):
+        """With and without a file to write to: the first writes that file, the second none."""
+        wanted = (self.folder / "cycle-1000.xml").read_bytes()
         with tempfile.TemporaryDirectory() as folder:
+            program = shutil.copy(self.folder / "make-long-cycle.py", folder)
             copy = pathlib.Path(folder) / "copy.xml"
-            subprocess.run([sys.executable, self.folder / "make-long-cycle.py", "--output", copy], check=True)
-            if copy.read_bytes() != (self.folder / "cycle-1000.xml").read_bytes():
+            subprocess.run([sys.executable, program, "--output", copy], check=True)
+            if copy.read_bytes() != wanted:
                 self.complain("cycle-1000.xml: make-long-cycle.py writes another one")
+            before = sorted(pathlib.Path(folder).iterdir())
+            run = subprocess.run([sys.executable, program, "--lines", "2"], cwd=folder, check=True, capture_output=True)
+            if len(ElementTree.fromstring(run.stdout).findall("ATOMSEQUENCE/ATOMS/ATOM")) != 2:
+                self.complain("make-long-cycle.py: no cycle of two lines on the standard output")
+            if sorted(pathlib.Path(folder).iterdir()) != before:
+                self.complain("make-long-cycle.py: it writes a file although none was named")
 
 
 def main():

@@ -90,6 +90,7 @@ play::Step RandomWalk::next() {
   std::string line;
   if (pending_.empty()) {
     line = nextStep();
+    loaded_ = line.starts_with("SetXMLStrings ");
     answered_ = false;
   } else {
     line = std::move(pending_.front());
@@ -105,18 +106,22 @@ void RandomWalk::showAll() {
   const auto show = [this](const char* name) { pending_.push_back(words({"show", name})); };
   std::ranges::for_each(screenControls, show);
   if (driver_.isDialogOpen()) std::ranges::for_each(dialogControls, show);
+  show("history");  // the last of all: the next step is chosen by it
 }
 
 std::string RandomWalk::nextStep() {
   const bool inDialog = driver_.isDialogOpen();
-  if (--stepsLeft_ < 0 && !inDialog) {
-    handedBack_ = true;
-    return "RetrieveCycle";
-  }
+  if (--stepsLeft_ < 0 && !inDialog) return lastStep();
   stepsInDialog_ = inDialog ? stepsInDialog_ + 1 : 0;
   const nlohmann::json popup = written(answer_, "popup");
   if (popup.is_array() && !popup.empty() && upTo(3) > 0) return stepInPopup(static_cast<int>(popup.size()));
   if (inDialog) return stepInDialog();
+  if (goesBack_) {
+    goesBack_ = canDo("undo");
+    return goesBack_ ? "undo" : "CycleChanged";
+  }
+  // Whether a cycle reads changed behind its load is what it has to read when all steps are undone.
+  if (loaded_ && upTo(1) == 0) return "CycleChanged";
   // What was just handed back comes again.
   const std::string cycle = handedBack(answer_, "RetrieveCycle");
   if (!cycle.empty() && upTo(2) == 0) return loadingOf(cycle);
@@ -125,10 +130,31 @@ std::string RandomWalk::nextStep() {
   return driver_.frame("fraCyclePart").enabled ? stepOnScreen() : stepOnDisabledScreen();
 }
 
+// Back to what was loaded, on again, and the end.
+std::string RandomWalk::lastStep() {
+  if (!undone_ && canDo("undo")) return "undo";
+  if (!std::exchange(undone_, true)) return "CycleChanged";
+  if (canDo("redo")) return "redo";
+  handedBack_ = true;
+  return "RetrieveCycle";
+}
+
+bool RandomWalk::canDo(const char* direction) const {
+  const nlohmann::json history = written(surroundings_.lastLine(), "history");
+  return history.is_object() && !history[direction].is_null();
+}
+
+// Single steps, or all the way back.
+std::string RandomWalk::stepInHistory() {
+  goesBack_ = upTo(9) == 0;
+  if (upTo(2) > 0 && canDo("undo")) return "undo";
+  return canDo("redo") ? "redo" : "tick";
+}
+
 std::string RandomWalk::stepInPopup(int entries) { return words({"menu", std::to_string(upTo(entries - 1))}); }
 
 std::string RandomWalk::stepOnScreen() {
-  switch (upTo(20)) {
+  switch (upTo(24)) {
     case 0:
     case 1:
     case 2:
@@ -151,6 +177,10 @@ std::string RandomWalk::stepOnScreen() {
     case 16: return "click cmdDefault";
     case 17: return words({"type txtCycleDescription", literal(oneOf(descriptions))});
     case 18: return "tick";
+    case 19:
+    case 20:
+    case 21:
+    case 22: return stepInHistory();
     default: return stepOfHost();
   }
 }

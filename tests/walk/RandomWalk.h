@@ -13,8 +13,8 @@
 namespace mavCycEd::walk {
 
 /// Steps of an operator who does anything that the screen lets one do, and of a host that loads anything. The same seed
-/// gives the same steps. Behind each step the screen is shown, and the dialog that is open; at the end the cycle is
-/// handed back.
+/// gives the same steps. Behind each step the screen is shown, and the dialog that is open; at the end all steps are
+/// undone and done again, and the cycle is handed back.
 class RandomWalk : public play::StepSource {
  public:
   /// What a walk hears and tells: the line that the player wrote last, and each of its own steps before it is taken, as
@@ -34,6 +34,9 @@ class RandomWalk : public play::StepSource {
 
  private:
   std::string nextStep();
+  std::string lastStep();
+  std::string stepInHistory();
+  bool canDo(const char* direction) const;
   void showAll();
   std::string stepOnScreen();
   std::string stepOnDisabledScreen();
@@ -57,6 +60,9 @@ class RandomWalk : public play::StepSource {
   int stepsLeft_;
   int stepsInDialog_ = 0;
   int lines_ = 0;
+  bool loaded_ = true;               // the last step loaded a cycle
+  bool goesBack_ = false;            // all steps are undone now
+  bool undone_ = false;              // the walk is at its end, and all its steps are undone
   bool handedBack_ = false;          // the walk is at its end
   bool answered_ = false;            // what the last step wrote has been looked at
   std::string answer_;               // the line that the last step wrote

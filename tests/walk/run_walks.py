@@ -2,9 +2,9 @@
 """Random walks of an operator through the editor, on every edition.
 
 For each seed a walk is written as a scenario (cyced-walk) and played on every edition. Behind every step the rules of
-walk_rules.py hold, and all editions showed the same. The cycle that is handed back at the end is loaded again and
-handed back again, which must give the same text. A walk that fails is shrunk to a short scenario, which is left in the
-work folder.
+walk_rules.py hold, and all editions showed the same. At its end a walk undoes all its steps and does them again. The
+cycle that is handed back then is loaded again and handed back again, which must give the same text. A walk that fails
+is shrunk to a short scenario, which is left in the work folder.
 """
 
 import argparse

@@ -50,25 +50,98 @@ RULES = {lines_problem: {"lstAtomSequence"}, atoms_problem: {"lstAtomSequence", 
          rows_problem: {"GrdAtom", "rows"}, state_problem: {"state"}}
 
 
+class HistoryRules:
+    """What undo and redo bring back: the lines, the variables and the description, as far as they were shown."""
+
+    NEEDED = {"atoms", "lstVariables", "txtCycleDescription", "history"}
+
+    def __init__(self):
+        self.step = ""
+        self.now = None  # the cycle behind this step, None until it is shown
+        self.loaded = None
+        self.loaded_changed = None  # what CycleChanged said behind the load, None when it was not asked
+        self.comparable = False  # no hand-back came between
+        self.undone = []  # the cycles from which the steps that can be done again were undone
+        self.wanted = None  # the cycle to which a redo has to lead
+
+    def on_step(self, step):
+        """A step that changes or may change something; what it leaves is shown next."""
+        before, self.now = self.now, None
+        if step.startswith("SetXMLStrings "):
+            self.loaded = self.loaded_changed = None
+            self.comparable = True
+        if step == "RetrieveCycle":
+            self.comparable = False
+        self.wanted = None
+        if step == "undo":
+            self.undone.append(before)
+        elif step == "redo":
+            self.wanted = self.undone.pop() if self.undone else None
+        elif before is None:
+            self.undone = []
+        self.step = step
+
+    def problem_of_shown(self, shown):
+        history = shown["history"]
+        self.now = (shown["atoms"], shown["lstVariables"]["items"], shown["txtCycleDescription"]["text"])
+        if history["redo"] is None:
+            self.undone = []
+        if self.step.startswith("SetXMLStrings "):
+            self.loaded = self.now
+            return "" if history == {"undo": None, "redo": None} else "a load leaves steps to undo"
+        if history["undo"] is None and self.loaded not in (None, self.now):
+            return "with nothing to undo the cycle is another one than was loaded"
+        if self.wanted not in (None, self.now):
+            return "a step that was done again leads to another cycle than before"
+        return ""
+
+    def problem_of_changed(self, changed):
+        if self.step.startswith("SetXMLStrings "):
+            self.loaded_changed = changed
+        comparable = self.comparable and None not in (self.loaded, self.loaded_changed)
+        if comparable and self.now == self.loaded and changed != self.loaded_changed:
+            return "what was loaded reads changed otherwise than behind the load"
+        return ""
+
+
 def broken_rule(output, steps, code):
     """The first rule that a walk's output breaks, as a text; empty when it breaks none."""
     shown = {}
     errors = 0
+    history = HistoryRules()
     showing = {step for step in steps if step.startswith("show ")}
     step = iter(steps)
+
+    def go_on_to(wanted):
+        """Behind the step that wrote the line."""
+        nonlocal shown
+        while (taken := next(step)) != wanted:
+            if not taken.startswith("show "):
+                history.on_step(taken)
+            shown = {}
+
     for line in output:
         name, value = next(iter(json.loads(line).items()))
         if name == "CycleEditorError":
             errors += 1
             if value["lngError"] != INVALID_XML:
                 return f"an error event: {line}"
+        if name == "CycleChanged":
+            go_on_to(name)
+            problem = history.problem_of_changed(value)
+            if problem:
+                return f"{problem}: {line}"
+            shown = {}
         if f"show {name}" not in showing:
             continue
-        while next(step) != f"show {name}":
-            shown = {}
+        go_on_to(f"show {name}")
         shown[name] = value
         for rule, needed in RULES.items():
             problem = rule(shown) if name in needed and needed <= shown.keys() else ""
+            if problem:
+                return f"{problem}: {line}"
+        if name in HistoryRules.NEEDED and HistoryRules.NEEDED <= shown.keys():
+            problem = history.problem_of_shown(shown)
             if problem:
                 return f"{problem}: {line}"
     unusable = sum(step.startswith(('SetXMLStrings "" ', 'SetXMLStrings "<LATESTKAM>" ')) for step in steps)
