@@ -4,8 +4,8 @@
 #include <string_view>
 #include <utility>
 
+#include "kit/Notify.h"
 #include "memory/Control.h"
-#include "memory/Notify.h"
 #include "platform/Button.h"
 
 namespace mavCycEd::memory {
@@ -22,7 +22,7 @@ class MemoryButton : public platform::Button, public Control {
   void setEnabled(bool enabled) override { setSelfEnabled(enabled); }
 
   /// The user presses the button.
-  void press() { notify(events_.Click); }
+  void press() { kit::tell(events_.Click); }
 
  private:
   platform::ButtonEvents events_;

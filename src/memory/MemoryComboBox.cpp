@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "memory/Notify.h"
+#include "kit/Notify.h"
 #include "platform/RunTimeError.h"
 #include "text/LineEnds.h"
 
@@ -24,12 +24,12 @@ std::string MemoryComboBox::itemText(int index) const {
 void MemoryComboBox::setIndex(int index) {
   text_ = index == -1 ? std::string() : itemText(index);
   index_ = index;
-  notify(events_.Click);
+  kit::tell(events_.Click);
 }
 
 void MemoryComboBox::setText(std::string_view text) {
   show(text);
-  notify(events_.Click);
+  kit::tell(events_.Click);
 }
 
 void MemoryComboBox::type(std::string_view text) { show(text::onOneLine(text)); }
@@ -39,6 +39,6 @@ void MemoryComboBox::show(std::string_view text) {
   text_ = text;
 }
 
-void MemoryComboBox::leave() { notify(events_.LostFocus); }
+void MemoryComboBox::leave() { kit::tell(events_.LostFocus); }
 
 }  // namespace mavCycEd::memory

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "memory/Notify.h"
+#include "kit/Notify.h"
 
 namespace mavCycEd::memory {
 
@@ -15,13 +15,13 @@ std::vector<std::string> MemoryListBox::items() const {
 
 void MemoryListBox::setIndex(int index) {
   selection_.select(index == -1 ? index : texts().checked(index));
-  notify(events_.Click);
+  kit::tell(events_.Click);
 }
 
 void MemoryListBox::doubleClick(int index) {
   const auto doubleClicked = events_.DblClick;
   setIndex(index);
-  notify(doubleClicked);
+  kit::tell(doubleClicked);
 }
 
 void MemoryItemListBox::assign(std::vector<std::string> items) {

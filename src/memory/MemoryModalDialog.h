@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "memory/Notify.h"
+#include "kit/Notify.h"
 #include "platform/ModalDialog.h"
 
 namespace mavCycEd::memory {
@@ -21,7 +21,7 @@ class MemoryModalDialog : public platform::ModalDialog {
   void setCaption(std::string_view caption) override { caption_ = caption; }
   void showModal() override {
     loaded_ = true;
-    notify(user_);
+    kit::tell(user_);
     if (loaded_) closeWindow();
   }
   void close() override { loaded_ = false; }
@@ -30,7 +30,7 @@ class MemoryModalDialog : public platform::ModalDialog {
 
   /// The user closes the window by its frame or with Esc.
   void closeWindow() {
-    notify(events_.Close);
+    kit::tell(events_.Close);
     loaded_ = false;
   }
 

@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "kit/Notify.h"
 #include "memory/Control.h"
-#include "memory/Notify.h"
 #include "platform/OptionButton.h"
 
 namespace mavCycEd::memory {
@@ -28,7 +28,7 @@ class MemoryOptionButton : public platform::OptionButton, public Control {
   void select() override {
     for (MemoryOptionButton* option : group_) option->selected_ = false;
     selected_ = true;
-    notify(events_.Click);
+    kit::tell(events_.Click);
   }
 
   /// The user presses it.

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "memory/Notify.h"
+#include "kit/Notify.h"
 
 namespace mavCycEd::memory {
 
@@ -11,7 +11,7 @@ bool MemoryPopupMenu::choose(int place) {
   const std::vector<int> indexes = visibleIndexes();
   if (!open_ || place < 0 || static_cast<std::size_t>(place) >= indexes.size()) return false;
   open_ = false;
-  notify(events().Click, indexes[static_cast<std::size_t>(place)]);
+  kit::tell(events().Click, indexes[static_cast<std::size_t>(place)]);
   return true;
 }
 

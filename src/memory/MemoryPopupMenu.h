@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/MenuItems.h"
+#include "kit/MenuItems.h"
 
 namespace mavCycEd::memory {
 
 /// A pop-up menu without a screen.
-class MemoryPopupMenu : public platform::MenuItems {
+class MemoryPopupMenu : public kit::MenuItems {
  public:
   void popUp() override { open_ = true; }
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <utility>
 
+#include "kit/Notify.h"
 #include "memory/Control.h"
-#include "memory/Notify.h"
 #include "platform/TextBox.h"
 #include "text/LineEnds.h"
 
@@ -31,11 +31,11 @@ class MemoryTextBox : public platform::TextBox, public Control {
     std::string replacement = hasOneLine() ? text::onOneLine(text) : text::typedToCrLf(text);
     if (replacement.empty() && text_.empty()) return;
     text_ = std::move(replacement);
-    notify(events_.Change);
+    kit::tell(events_.Change);
   }
 
   /// The keyboard focus moves away.
-  void leave() { notify(events_.LostFocus); }
+  void leave() { kit::tell(events_.LostFocus); }
   bool hasOneLine() const { return lines_ == Lines::One; }
 
  private:

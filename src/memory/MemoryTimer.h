@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "memory/Notify.h"
+#include "kit/Notify.h"
 #include "platform/Timer.h"
 
 namespace mavCycEd::memory {
@@ -18,7 +18,7 @@ class MemoryTimer : public platform::Timer {
 
   /// The interval has passed. Nothing happens while the timer is off.
   void fire() {
-    if (enabled_) notify(events_.Tick);
+    if (enabled_) kit::tell(events_.Tick);
   }
 
  private:

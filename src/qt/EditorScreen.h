@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "control/ControlScreen.h"
-#include "platform/CommandGate.h"
+#include "kit/CommandGate.h"
 #include "qt/HelpDesk.h"
 #include "qt/QtButton.h"
 #include "qt/QtComboBox.h"
@@ -38,7 +38,7 @@ class EditorScreen {
   ControlScreen controls();
 
   /// What commands pass before they run.
-  const platform::CommandGate& gate() const { return gate_; }
+  const kit::CommandGate& gate() const { return gate_; }
 
   HelpDesk& help() { return help_; }
 
@@ -54,7 +54,7 @@ class EditorScreen {
 
   QWidget& control_;
   std::unique_ptr<QWidget, WidgetRelease> content_;  // all widgets are in it; it goes last
-  platform::CommandGate gate_;
+  kit::CommandGate gate_;
   QtFrame fraSelectedMacro_{"fraSelectedMacro", content_.get()};
   QtComboBox cboAtom_{gate_, QtComboBox::Mode::PickOnly, "cboAtom", fraSelectedMacro_.widget()};
   QtValueList GrdAtom_{"GrdAtom", fraSelectedMacro_.widget()};

@@ -2,13 +2,13 @@
 
 #include <QPointer>
 
-#include "qt/Notify.h"
+#include "kit/Notify.h"
 #include "qt/PromptButton.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
 
-QtButton::QtButton(const platform::CommandGate& gate, const char* name, QWidget* parent)
+QtButton::QtButton(const kit::CommandGate& gate, const char* name, QWidget* parent)
     : gate_(gate), button_(new PromptButton<QPushButton>(parent)) {
   button_->setObjectName(QLatin1String(name));
   // Inside a host's dialog none of our buttons is what Enter presses.
@@ -24,7 +24,7 @@ void QtButton::setCaption(std::string_view caption) {
 void QtButton::raiseClick() {
   const QPointer<QtButton> self(this);
   gate_.pass();
-  if (self) tell(events_.Click);
+  if (self) kit::tell(events_.Click);
 }
 
 }  // namespace mavCycEd::qt

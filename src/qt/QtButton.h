@@ -4,8 +4,8 @@
 #include <QPushButton>
 #include <utility>
 
+#include "kit/CommandGate.h"
 #include "platform/Button.h"
-#include "platform/CommandGate.h"
 
 namespace mavCycEd::qt {
 
@@ -14,7 +14,7 @@ class QtButton : public QObject, public platform::Button {
   Q_OBJECT
 
  public:
-  QtButton(const platform::CommandGate& gate, const char* name, QWidget* parent);
+  QtButton(const kit::CommandGate& gate, const char* name, QWidget* parent);
 
   QPushButton* widget() const { return button_; }
 
@@ -27,7 +27,7 @@ class QtButton : public QObject, public platform::Button {
  private:
   void raiseClick();
 
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   QPushButton* button_;
   platform::ButtonEvents events_;
   std::string caption_;

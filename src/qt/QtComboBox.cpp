@@ -3,13 +3,13 @@
 #include <QLineEdit>
 #include <QPointer>
 
+#include "kit/Notify.h"
 #include "qt/LineEdits.h"
-#include "qt/Notify.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
 
-QtComboBox::QtComboBox(const platform::CommandGate& gate, Mode mode, const char* name, QWidget* parent)
+QtComboBox::QtComboBox(const kit::CommandGate& gate, Mode mode, const char* name, QWidget* parent)
     : gate_(gate), model_(new TextListModel), combo_(new ComboWidget(parent)) {
   combo_->setObjectName(QLatin1String(name));
   model_->setParent(combo_);
@@ -24,7 +24,7 @@ QtComboBox::QtComboBox(const platform::CommandGate& gate, Mode mode, const char*
   }
   // The last of the signals that tell of a user's pick, also of the item that was selected already.
   connect(combo_, &QComboBox::textActivated, this, &QtComboBox::onPicked);
-  connect(combo_, &ComboWidget::focusLeft, this, [this] { tell(events_.LostFocus); });
+  connect(combo_, &ComboWidget::focusLeft, this, [this] { kit::tell(events_.LostFocus); });
 }
 
 void QtComboBox::assign(std::vector<std::string> items) {
@@ -39,12 +39,12 @@ void QtComboBox::addItem(std::string_view text) {
 
 void QtComboBox::setIndex(int index) {
   show(index, index == -1 ? std::string() : itemText(index));
-  tell(events_.Click);
+  kit::tell(events_.Click);
 }
 
 void QtComboBox::setText(std::string_view text) {
   show(model_->indexOf(text), std::string(text));
-  tell(events_.Click);
+  kit::tell(events_.Click);
 }
 
 void QtComboBox::show(int index, std::string text) {
@@ -63,7 +63,7 @@ void QtComboBox::onPicked() {
   combo_->setPlaceholderText({});
   const QPointer<QtComboBox> self(this);
   gate_.pass();
-  if (self) tell(events_.Click);
+  if (self) kit::tell(events_.Click);
 }
 
 void QtComboBox::onTyped() {

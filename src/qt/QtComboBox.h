@@ -3,8 +3,8 @@
 #include <QObject>
 #include <utility>
 
+#include "kit/CommandGate.h"
 #include "platform/ComboBox.h"
-#include "platform/CommandGate.h"
 #include "qt/ComboWidget.h"
 #include "qt/TextListModel.h"
 
@@ -18,7 +18,7 @@ class QtComboBox : public QObject, public platform::ComboBox {
  public:
   enum class Mode { PickOnly, TypedToo };
 
-  QtComboBox(const platform::CommandGate& gate, Mode mode, const char* name, QWidget* parent);
+  QtComboBox(const kit::CommandGate& gate, Mode mode, const char* name, QWidget* parent);
 
   ComboWidget* widget() const { return combo_; }
 
@@ -38,7 +38,7 @@ class QtComboBox : public QObject, public platform::ComboBox {
   void onPicked();
   void onTyped();
 
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   TextListModel* model_;
   ComboWidget* combo_;
   platform::ComboBoxEvents events_;

@@ -1,8 +1,8 @@
 #include "qt/QtLineBox.h"
 
+#include "kit/Notify.h"
 #include "qt/FocusRules.h"
 #include "qt/LineEdits.h"
-#include "qt/Notify.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
@@ -25,13 +25,13 @@ void QtLineBox::focusAndSelectAll() {
 
 bool QtLineBox::eventFilter(QObject* watched, QEvent* event) {
   const bool lost = event->type() == QEvent::FocusOut;
-  if (lost && leavesControl(*edit_, static_cast<const QFocusEvent&>(*event))) tell(events_.LostFocus);
+  if (lost && leavesControl(*edit_, static_cast<const QFocusEvent&>(*event))) kit::tell(events_.LostFocus);
   return QObject::eventFilter(watched, event);
 }
 
 void QtLineBox::onTextEdited() {
   text_ = fromQt(keepOnOneLine(*edit_));
-  tell(events_.Change);
+  kit::tell(events_.Change);
 }
 
 }  // namespace mavCycEd::qt

@@ -2,13 +2,13 @@
 
 #include <QPointer>
 
+#include "kit/Notify.h"
 #include "platform/RunTimeError.h"
 #include "qt/Fonts.h"
-#include "qt/Notify.h"
 
 namespace mavCycEd::qt {
 
-QtListBox::QtListBox(const platform::CommandGate& gate, ListModel* model, const char* name, QWidget* parent)
+QtListBox::QtListBox(const kit::CommandGate& gate, ListModel* model, const char* name, QWidget* parent)
     : gate_(gate), model_(model), view_(new TextListView(model, parent)) {
   view_->setObjectName(QLatin1String(name));
   connect(view_, &TextListView::chosen, this, &QtListBox::raiseClick);
@@ -18,7 +18,7 @@ QtListBox::QtListBox(const platform::CommandGate& gate, ListModel* model, const 
 void QtListBox::setIndex(int index) {
   if (index < -1 || index >= model_->count()) throw RunTimeError(ErrorNumber::InvalidProcedureCall);
   view_->select(index);
-  tell(events_.Click);
+  kit::tell(events_.Click);
 }
 
 platform::Font QtListBox::font() const { return fontOf(*view_); }
@@ -28,13 +28,13 @@ void QtListBox::setItemFont(const platform::Font& font) { setFontOf(*view_, font
 void QtListBox::raiseClick() {
   const QPointer<QtListBox> self(this);
   gate_.pass();
-  if (self) tell(events_.Click);
+  if (self) kit::tell(events_.Click);
 }
 
 void QtListBox::doubleClick() {
   const QPointer<QtListBox> self(this);
   gate_.pass();
-  if (self && index() >= 0) tell(events_.DblClick);
+  if (self && index() >= 0) kit::tell(events_.DblClick);
 }
 
 }  // namespace mavCycEd::qt

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/CommandGate.h"
+#include "kit/CommandGate.h"
 #include "platform/ItemListBox.h"
 #include "platform/LineListBox.h"
 #include "qt/LineListModel.h"
@@ -35,12 +35,12 @@ class QtListBox : public QObject, public virtual platform::ListBox {
 
  protected:
   /// The model becomes the widget's own.
-  QtListBox(const platform::CommandGate& gate, ListModel* model, const char* name, QWidget* parent);
+  QtListBox(const kit::CommandGate& gate, ListModel* model, const char* name, QWidget* parent);
 
  private:
   void raiseClick();
 
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   ListModel* model_;
   TextListView* view_;
   platform::ListBoxEvents events_;
@@ -51,7 +51,7 @@ class QtItemListBox : public QtListBox, public platform::ItemListBox {
   Q_OBJECT
 
  public:
-  QtItemListBox(const platform::CommandGate& gate, const char* name, QWidget* parent)
+  QtItemListBox(const kit::CommandGate& gate, const char* name, QWidget* parent)
       : QtItemListBox(gate, new TextListModel, name, parent) {}
 
   void clear() override { assign({}); }
@@ -62,7 +62,7 @@ class QtItemListBox : public QtListBox, public platform::ItemListBox {
   void setItemText(int index, std::string_view text) override { items_->setText(index, text); }
 
  private:
-  QtItemListBox(const platform::CommandGate& gate, TextListModel* items, const char* name, QWidget* parent)
+  QtItemListBox(const kit::CommandGate& gate, TextListModel* items, const char* name, QWidget* parent)
       : QtListBox(gate, items, name, parent), items_(items) {}
 
   TextListModel* items_;
@@ -73,7 +73,7 @@ class QtLineListBox : public QtListBox, public platform::LineListBox {
   Q_OBJECT
 
  public:
-  QtLineListBox(const platform::CommandGate& gate, const char* name, QWidget* parent)
+  QtLineListBox(const kit::CommandGate& gate, const char* name, QWidget* parent)
       : QtLineListBox(gate, new LineListModel, name, parent) {}
 
   void clear() override { lines_->clear(); }
@@ -83,7 +83,7 @@ class QtLineListBox : public QtListBox, public platform::LineListBox {
   }
 
  private:
-  QtLineListBox(const platform::CommandGate& gate, LineListModel* lines, const char* name, QWidget* parent)
+  QtLineListBox(const kit::CommandGate& gate, LineListModel* lines, const char* name, QWidget* parent)
       : QtListBox(gate, lines, name, parent), lines_(lines) {}
 
   LineListModel* lines_;

@@ -1,6 +1,6 @@
 #include "qt/QtModalDialog.h"
 
-#include "qt/Notify.h"
+#include "kit/Notify.h"
 #include "qt/Text.h"
 #include "qt/WindowHandles.h"
 
@@ -8,7 +8,7 @@ namespace mavCycEd::qt {
 
 QtModalDialog::QtModalDialog(const char* name, QWidget* owner) : window_(new ModalWindow(owner)) {
   window_->setObjectName(QLatin1String(name));
-  connect(window_, &ModalWindow::closing, this, [this] { tell(events_.Close); });
+  connect(window_, &ModalWindow::closing, this, [this] { kit::tell(events_.Close); });
 }
 
 // What stands in the window goes with it; the owner may have destroyed it before.

@@ -3,13 +3,13 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 
-#include "qt/Notify.h"
+#include "kit/Notify.h"
 #include "qt/PromptButton.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
 
-QtOptionButton::QtOptionButton(const platform::CommandGate& gate, const char* name, QWidget* parent)
+QtOptionButton::QtOptionButton(const kit::CommandGate& gate, const char* name, QWidget* parent)
     : gate_(gate), button_(new PromptButton<QRadioButton>(parent)) {
   button_->setObjectName(QLatin1String(name));
   // Not clicked(): assistive technology selects without it, and a press of the selected option selects nothing.
@@ -28,13 +28,13 @@ void QtOptionButton::select() {
     const QScopedValueRollback selecting(selecting_, true);
     button_->setChecked(true);
   }
-  tell(events_.Click);
+  kit::tell(events_.Click);
 }
 
 void QtOptionButton::raiseClick() {
   const QPointer<QtOptionButton> self(this);
   gate_.pass();
-  if (self) tell(events_.Click);
+  if (self) kit::tell(events_.Click);
 }
 
 }  // namespace mavCycEd::qt

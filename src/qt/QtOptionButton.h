@@ -4,7 +4,7 @@
 #include <QRadioButton>
 #include <utility>
 
-#include "platform/CommandGate.h"
+#include "kit/CommandGate.h"
 #include "platform/OptionButton.h"
 
 namespace mavCycEd::qt {
@@ -14,7 +14,7 @@ class QtOptionButton : public QObject, public platform::OptionButton {
   Q_OBJECT
 
  public:
-  QtOptionButton(const platform::CommandGate& gate, const char* name, QWidget* parent);
+  QtOptionButton(const kit::CommandGate& gate, const char* name, QWidget* parent);
 
   QRadioButton* widget() const { return button_; }
 
@@ -27,7 +27,7 @@ class QtOptionButton : public QObject, public platform::OptionButton {
  private:
   void raiseClick();
 
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   QRadioButton* button_;
   platform::OptionButtonEvents events_;
   std::string caption_;

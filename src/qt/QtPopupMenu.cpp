@@ -6,8 +6,8 @@
 #include <QWidgetAction>
 #include <cstddef>
 
+#include "kit/Notify.h"
 #include "qt/MenuList.h"
-#include "qt/Notify.h"
 #include "qt/Text.h"
 
 namespace mavCycEd::qt {
@@ -23,7 +23,7 @@ bool fitInMenu(std::size_t entries, const QMenu& menu) {
 
 }  // namespace
 
-QtPopupMenu::QtPopupMenu(const platform::CommandGate& gate, const char* name, QWidget* parent)
+QtPopupMenu::QtPopupMenu(const kit::CommandGate& gate, const char* name, QWidget* parent)
     : gate_(gate), menu_(new PopupMenuWidget([this] { return visibleCaptions(); }, parent)) {
   menu_->setObjectName(QLatin1String(name));
 }
@@ -78,7 +78,7 @@ QAction* QtPopupMenu::listEntry(const std::vector<int>& indexes) {
 void QtPopupMenu::onTriggered(int index) {
   const QPointer<QtPopupMenu> self(this);
   gate_.pass();
-  if (self) tell(events().Click, index);
+  if (self) kit::tell(events().Click, index);
 }
 
 }  // namespace mavCycEd::qt

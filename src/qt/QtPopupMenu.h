@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/CommandGate.h"
-#include "platform/MenuItems.h"
+#include "kit/CommandGate.h"
+#include "kit/MenuItems.h"
 
 namespace mavCycEd::qt {
 
@@ -29,11 +29,11 @@ class PopupMenuWidget : public QMenu {
 
 /// A pop-up menu. More entries than the screen is high are shown as a list in it, which scrolls and finds what is
 /// typed.
-class QtPopupMenu : public QObject, public platform::MenuItems {
+class QtPopupMenu : public QObject, public kit::MenuItems {
   Q_OBJECT
 
  public:
-  QtPopupMenu(const platform::CommandGate& gate, const char* name, QWidget* parent);
+  QtPopupMenu(const kit::CommandGate& gate, const char* name, QWidget* parent);
 
   QMenu* widget() const { return menu_; }
   /// Where the menu opens, in global coordinates; at the pointer when nobody says.
@@ -51,7 +51,7 @@ class QtPopupMenu : public QObject, public platform::MenuItems {
   QAction* listEntry(const std::vector<int>& indexes);
   void onTriggered(int index);
 
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   PopupMenuWidget* menu_;
   std::function<QPoint()> place_;
 };

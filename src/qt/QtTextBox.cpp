@@ -8,8 +8,8 @@
 #include <cstddef>
 
 #include "kit/CaretPlace.h"
+#include "kit/Notify.h"
 #include "qt/FocusRules.h"
-#include "qt/Notify.h"
 #include "qt/Text.h"
 #include "text/LineEnds.h"
 
@@ -100,7 +100,7 @@ void QtTextBox::onTextChanged() {
   std::string typed = typedText();
   if (composing_ && typed == text_) return;
   text_ = std::move(typed);
-  tell(events_.Change);
+  kit::tell(events_.Change);
 }
 
 bool QtTextBox::eventFilter(QObject* watched, QEvent* event) {
@@ -111,7 +111,7 @@ bool QtTextBox::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
     case QEvent::MouseButtonPress: composing_ = false; break;
     case QEvent::FocusOut:
-      if (leavesControl(*edit_, static_cast<const QFocusEvent&>(*event))) tell(events_.LostFocus);
+      if (leavesControl(*edit_, static_cast<const QFocusEvent&>(*event))) kit::tell(events_.LostFocus);
       break;
     default: break;
   }

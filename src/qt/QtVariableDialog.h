@@ -3,8 +3,8 @@
 #include <QWidget>
 #include <memory>
 
+#include "kit/CommandGate.h"
 #include "panels/VariableDialogScreen.h"
-#include "platform/CommandGate.h"
 #include "qt/HelpDesk.h"
 #include "qt/QtButton.h"
 #include "qt/QtComboBox.h"
@@ -38,7 +38,7 @@ class QtVariableDialog : public VariableDialogWindow {
   void setTabOrder();
   void nameForPeople();
 
-  platform::CommandGate gate_;
+  kit::CommandGate gate_;
   HelpDesk& help_;
   QtModalDialog frmparams_;
   HelpKey helpKey_{*window(), [this] { help_.showOver(window(), HelpPage::Variables); }};

@@ -16,7 +16,7 @@ const IID& idOfAccessible = __uuidof(IAccessible);
 // What the system says of a window, and what we know better. The window may go while somebody still holds this.
 class WindowDescription : public IAccessible {
  public:
-  WindowDescription(NativeWindow& window, Lifeline::Watch alive, IAccessible* system)
+  WindowDescription(NativeWindow& window, kit::Lifeline::Watch alive, IAccessible* system)
       : window_(window), alive_(std::move(alive)), system_(system) {}
   WindowDescription(const WindowDescription&) = delete;
   WindowDescription& operator=(const WindowDescription&) = delete;
@@ -202,7 +202,7 @@ class WindowDescription : public IAccessible {
   }
 
   NativeWindow& window_;
-  Lifeline::Watch alive_;
+  kit::Lifeline::Watch alive_;
   IAccessible* system_;
   std::atomic<ULONG> references_ = 1;
 };

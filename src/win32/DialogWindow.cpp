@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
+#include "kit/Lifeline.h"
+#include "kit/Notify.h"
 #include "win32/Module.h"
-#include "win32/Notify.h"
 
 namespace mavCycEd::win32 {
 namespace {
@@ -47,7 +48,7 @@ void DialogWindow::run(HWND first) {
   const ThemedScope themed;
   const HWND before = GetFocus();
   const auto modality = modality_;
-  tell(modality, true);
+  kit::tell(modality, true);
   const bool disables = owner_ != nullptr && IsWindowEnabled(owner_) != FALSE;
   if (disables) EnableWindow(owner_, FALSE);
   open_ = true;
@@ -57,7 +58,7 @@ void DialogWindow::run(HWND first) {
   SetFocus(first != nullptr ? first : handle());
 
   const HWND owner = owner_;
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   loop();
   if (disables && IsWindow(owner) != FALSE) EnableWindow(owner, TRUE);
   if (alive) {
@@ -66,12 +67,12 @@ void DialogWindow::run(HWND first) {
   }
   if (owner != nullptr && IsWindow(owner) != FALSE) SetActiveWindow(owner);
   if (before != nullptr && IsWindow(before) != FALSE) SetFocus(before);
-  tell(modality, false);
+  kit::tell(modality, false);
 }
 
 // Until the window closes or goes, or the whole program ends.
 void DialogWindow::loop() {
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   MSG message{};
   while (alive && open_ && handle() != nullptr) {
     const BOOL got = GetMessageW(&message, nullptr, 0, 0);
@@ -92,8 +93,8 @@ void DialogWindow::close() {
 }
 
 void DialogWindow::closeByUser() {
-  const Lifeline::Watch alive = lifeline_.watch();
-  tell(closing_);
+  const kit::Lifeline::Watch alive = lifeline_.watch();
+  kit::tell(closing_);
   if (alive) close();
 }
 

@@ -17,8 +17,8 @@ std::shared_ptr<platform::Timer> timerOr(std::shared_ptr<platform::Timer> timer,
 
 }  // namespace
 
-EditorControls::EditorControls(HWND panel, const platform::CommandGate& gate,
-                               std::shared_ptr<platform::Timer> gridTimer, std::shared_ptr<platform::Timer> typingTimer)
+EditorControls::EditorControls(HWND panel, const kit::CommandGate& gate, std::shared_ptr<platform::Timer> gridTimer,
+                               std::shared_ptr<platform::Timer> typingTimer)
     : fraSelectedMacro(panel, nullptr),
       fraCyclePart(panel, nullptr),
       fraDescription(panel, &fraCyclePart),

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "control/ControlScreen.h"
-#include "platform/CommandGate.h"
+#include "kit/CommandGate.h"
 #include "win32/Help.h"
 #include "win32/Module.h"
 #include "win32/PanelWindow.h"
@@ -25,7 +25,7 @@ namespace mavCycEd::win32 {
 /// The child controls of the editor's screen, in the order of the Tab key as far as they take the focus: choose an
 /// atom, fill in its values, put it into the sequence. Frames stand before what stands in them.
 struct EditorControls {
-  EditorControls(HWND panel, const platform::CommandGate& gate, std::shared_ptr<platform::Timer> gridTimer,
+  EditorControls(HWND panel, const kit::CommandGate& gate, std::shared_ptr<platform::Timer> gridTimer,
                  std::shared_ptr<platform::Timer> typingTimer);
 
   Win32Frame fraSelectedMacro;
@@ -96,7 +96,7 @@ class EditorScreen {
   const Win32VariableDialogs& variableDialogs() const { return variableDialogs_; }
 
   /// What commands pass before they run.
-  const platform::CommandGate& gate() const { return gate_; }
+  const kit::CommandGate& gate() const { return gate_; }
 
  private:
   void fit();
@@ -108,7 +108,7 @@ class EditorScreen {
   void nameForPeople();
 
   std::optional<ThemedScope> themed_{std::in_place};  // while the windows are made
-  platform::CommandGate gate_;
+  kit::CommandGate gate_;
   PanelWindow parking_;  // where the window is that stands nowhere: not seen
   PanelWindow panel_;
   EditorControls controls_;

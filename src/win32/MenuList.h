@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/CommandGate.h"
+#include "kit/CommandGate.h"
 #include "win32/PanelWindow.h"
 #include "win32/Win32ListBox.h"
 
@@ -30,7 +30,7 @@ class MenuList : public PanelWindow {
  private:
   class Entries : public Win32ItemListBox {
    public:
-    Entries(const platform::CommandGate& gate, MenuList& menu)
+    Entries(const kit::CommandGate& gate, MenuList& menu)
         : Win32ItemListBox(gate, menu.handle(), nullptr), menu_(menu) {}
 
    protected:
@@ -45,7 +45,7 @@ class MenuList : public PanelWindow {
   void take();
   void loop();
 
-  platform::CommandGate gate_;  // nothing is open that a press in the list would end
+  kit::CommandGate gate_;  // nothing is open that a press in the list would end
   Entries list_{gate_, *this};
   std::string longest_;
   FontHandle font_;

@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "kit/Lifeline.h"
 #include "win32/Fonts.h"
-#include "win32/Notify.h"
 #include "win32/Windows.h"
 
 namespace mavCycEd::win32 {
@@ -70,7 +70,7 @@ class NativeWindow {
   /// The items of the window for assistive technology; nullptr where the system knows them.
   virtual AccessibleItems* accessibleItems() { return nullptr; }
 
-  Lifeline::Watch watch() const { return lifeline_.watch(); }
+  kit::Lifeline::Watch watch() const { return lifeline_.watch(); }
 
  protected:
   /// Answers a message of the window; nothing: the system's class does.
@@ -90,7 +90,7 @@ class NativeWindow {
   /// Puts a new, empty window in the place of the one there is, for what the system decides when a window is made.
   void remake(const Kind& kind);
 
-  Lifeline lifeline_;
+  kit::Lifeline lifeline_;
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,

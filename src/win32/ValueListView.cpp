@@ -185,7 +185,7 @@ bool ValueListView::isDivider(POINT place) const {
 
 // The titles take no focus, and what is edited stays open while the divider between them is dragged.
 void ValueListView::onPress(MouseButton button, POINT place) {
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   const auto list = list_;
   if (geometry_.rowAt(place.y) != 0) {
     list->endEdit();
@@ -244,7 +244,7 @@ void ValueListView::copy(std::string_view value) {
 
 // An editor that the keys no longer go to has been left, also when its own message of that is still on its way.
 bool ValueListView::onKey(WPARAM key) {
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   cellEditor_.checkFocus();
   if (!alive) return true;
   const auto answer = std::shared_ptr(list_)->pressKey(keyPressOf(key));
@@ -259,7 +259,7 @@ bool ValueListView::onKey(WPARAM key) {
 // A typed character opens the editor and goes there.
 void ValueListView::onCharacter(WPARAM character) {
   if (character < L' ' || character == 0x7F) return;
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   cellEditor_.checkFocus();
   if (!alive) return;
   const auto answer = std::shared_ptr(list_)->pressKey({.key = kit::Key::Character});

@@ -5,7 +5,7 @@
 
 namespace mavCycEd::win32 {
 
-Win32Button::Win32Button(const platform::CommandGate& gate, HWND parent, Win32Frame* frame)
+Win32Button::Win32Button(const kit::CommandGate& gate, HWND parent, Win32Frame* frame)
     : NativeWindow(parent, frame, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP}), gate_(gate) {}
 
 void Win32Button::setCaption(std::string_view caption) {
@@ -22,7 +22,7 @@ void Win32Button::onCommand(int notification) {
 }
 
 void Win32Button::onPosted(int) {
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
   if (alive && isEnabledHere()) tell(events_.Click);
 }

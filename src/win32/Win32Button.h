@@ -3,8 +3,8 @@
 #include <string>
 #include <utility>
 
+#include "kit/CommandGate.h"
 #include "platform/Button.h"
-#include "platform/CommandGate.h"
 #include "win32/NativeWindow.h"
 
 namespace mavCycEd::win32 {
@@ -12,7 +12,7 @@ namespace mavCycEd::win32 {
 /// A push button.
 class Win32Button : public platform::Button, public NativeWindow {
  public:
-  Win32Button(const platform::CommandGate& gate, HWND parent, Win32Frame* frame);
+  Win32Button(const kit::CommandGate& gate, HWND parent, Win32Frame* frame);
 
   void setEvents(platform::ButtonEvents events) override { events_ = std::move(events); }
   std::string caption() const override { return caption_; }
@@ -28,7 +28,7 @@ class Win32Button : public platform::Button, public NativeWindow {
   void onPosted(int what) override;
 
  private:
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   platform::ButtonEvents events_;
   std::string caption_;
 };

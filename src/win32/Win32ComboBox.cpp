@@ -19,7 +19,7 @@ DWORD styleOf(Win32ComboBox::Mode mode) {
 
 }  // namespace
 
-Win32ComboBox::Win32ComboBox(const platform::CommandGate& gate, Mode mode, HWND parent, Win32Frame* frame)
+Win32ComboBox::Win32ComboBox(const kit::CommandGate& gate, Mode mode, HWND parent, Win32Frame* frame)
     : NativeWindow(parent, frame, {L"COMBOBOX", styleOf(mode)}), gate_(gate), mode_(mode) {
   constexpr int mostVisibleItems = 20;
   send(CB_SETMINVISIBLE, mostVisibleItems);
@@ -162,7 +162,7 @@ void Win32ComboBox::onPosted(int what) {
   const int picked = std::exchange(picked_, -1);
   if (picked < 0 || picked >= itemCount()) return;
   show(picked, itemText(picked));
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
   if (alive) tell(events_.Click);
 }

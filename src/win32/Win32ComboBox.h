@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
+#include "kit/CommandGate.h"
 #include "kit/TypeAhead.h"
 #include "platform/ComboBox.h"
-#include "platform/CommandGate.h"
 #include "text/FirstIndex.h"
 #include "win32/NativeWindow.h"
 #include "win32/Typing.h"
@@ -18,7 +18,7 @@ namespace mavCycEd::win32 {
 class Win32ComboBox : public platform::ComboBox, public NativeWindow {
  public:
   enum class Mode { PickOnly, TypedToo };
-  Win32ComboBox(const platform::CommandGate& gate, Mode mode, HWND parent, Win32Frame* frame);
+  Win32ComboBox(const kit::CommandGate& gate, Mode mode, HWND parent, Win32Frame* frame);
 
   void setEvents(platform::ComboBoxEvents events) override { events_ = std::move(events); }
   void clear() override { assign({}); }
@@ -50,7 +50,7 @@ class Win32ComboBox : public platform::ComboBox, public NativeWindow {
   void searchFor(wchar_t character);
   void fitList();
 
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   Mode mode_;
   platform::ComboBoxEvents events_;
   std::vector<std::string> items_;

@@ -46,7 +46,7 @@ Win32Editor::~Win32Editor() {
 }
 
 bool Win32Editor::settle() {
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   const auto surroundings = surroundings_;
   surroundings->screen.gate().pass();
   return static_cast<bool>(alive);

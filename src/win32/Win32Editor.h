@@ -5,9 +5,9 @@
 
 #include "catalogue/AtomListProvider.h"
 #include "control/EditorControl.h"
+#include "kit/Lifeline.h"
 #include "win32/EditorScreen.h"
 #include "win32/Help.h"
-#include "win32/Notify.h"
 #include "win32/Services.h"
 
 namespace mavCycEd::win32 {
@@ -60,7 +60,7 @@ class Win32Editor {
  private:
   std::shared_ptr<Surroundings> surroundings_;
   EditorControl control_;
-  Lifeline lifeline_;
+  kit::Lifeline lifeline_;
 };
 
 }  // namespace mavCycEd::win32

@@ -13,7 +13,7 @@ constexpr int WidthGrew = 1;
 
 }  // namespace
 
-Win32ListBox::Win32ListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame)
+Win32ListBox::Win32ListBox(const kit::CommandGate& gate, HWND parent, Win32Frame* frame)
     : NativeWindow(
           parent, frame,
           {L"LISTBOX",
@@ -128,13 +128,13 @@ void Win32ListBox::choose(int index) {
 }
 
 void Win32ListBox::raiseClick() {
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
   if (alive) tell(events_.Click);
 }
 
 void Win32ListBox::doubleClick() {
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
   if (alive && index() >= 0) tell(events_.DblClick);
 }

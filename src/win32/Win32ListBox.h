@@ -7,11 +7,11 @@
 #include <utility>
 #include <vector>
 
+#include "kit/CommandGate.h"
 #include "kit/LineCount.h"
 #include "kit/ListItems.h"
 #include "kit/SelectionRanges.h"
 #include "kit/TypeAhead.h"
-#include "platform/CommandGate.h"
 #include "platform/ItemListBox.h"
 #include "platform/LineListBox.h"
 #include "win32/Accessible.h"
@@ -46,7 +46,7 @@ class Win32ListBox : public virtual platform::ListBox, public NativeWindow {
   AccessibleItems* accessibleItems() override { return &accessibleItems_; }
 
  protected:
-  Win32ListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame);
+  Win32ListBox(const kit::CommandGate& gate, HWND parent, Win32Frame* frame);
 
   virtual const kit::ListTexts& texts() const = 0;
   /// A text is being drawn. True when the list needs more room for it than it was given.
@@ -87,7 +87,7 @@ class Win32ListBox : public virtual platform::ListBox, public NativeWindow {
   void raiseClick();
   void applyItemFont();
 
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   platform::ListBoxEvents events_;
   kit::SelectionRanges selection_;
   kit::TypeAhead typeAhead_{typingPause};
@@ -102,8 +102,7 @@ class Win32ListBox : public virtual platform::ListBox, public NativeWindow {
 /// A list of items.
 class Win32ItemListBox : public Win32ListBox, public platform::ItemListBox {
  public:
-  Win32ItemListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame)
-      : Win32ListBox(gate, parent, frame) {}
+  Win32ItemListBox(const kit::CommandGate& gate, HWND parent, Win32Frame* frame) : Win32ListBox(gate, parent, frame) {}
 
   void clear() override { assign({}); }
   void assign(std::vector<std::string> items) override;
@@ -122,8 +121,7 @@ class Win32ItemListBox : public Win32ListBox, public platform::ItemListBox {
 /// A list of an owner's lines.
 class Win32LineListBox : public Win32ListBox, public platform::LineListBox {
  public:
-  Win32LineListBox(const platform::CommandGate& gate, HWND parent, Win32Frame* frame)
-      : Win32ListBox(gate, parent, frame) {}
+  Win32LineListBox(const kit::CommandGate& gate, HWND parent, Win32Frame* frame) : Win32ListBox(gate, parent, frame) {}
 
   void clear() override;
   void showLines(const platform::ListLines& lines) override;

@@ -5,7 +5,7 @@
 
 namespace mavCycEd::win32 {
 
-Win32OptionButton::Win32OptionButton(const platform::CommandGate& gate, Place place, HWND parent, Win32Frame* frame)
+Win32OptionButton::Win32OptionButton(const kit::CommandGate& gate, Place place, HWND parent, Win32Frame* frame)
     : NativeWindow(parent, frame,
                    {L"BUTTON", BS_RADIOBUTTON | (place == Place::FirstOfGroup ? WS_GROUP | WS_TABSTOP : 0U)}),
       gate_(gate) {
@@ -44,7 +44,7 @@ void Win32OptionButton::onCommand(int notification) {
 void Win32OptionButton::onPosted(int) {
   if (selected_) return;
   show();
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
   if (alive) tell(events_.Click);
 }

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/CommandGate.h"
+#include "kit/CommandGate.h"
 #include "platform/OptionButton.h"
 #include "win32/NativeWindow.h"
 
@@ -15,7 +15,7 @@ namespace mavCycEd::win32 {
 class Win32OptionButton : public platform::OptionButton, public NativeWindow {
  public:
   enum class Place { FirstOfGroup, InGroup };
-  Win32OptionButton(const platform::CommandGate& gate, Place place, HWND parent, Win32Frame* frame);
+  Win32OptionButton(const kit::CommandGate& gate, Place place, HWND parent, Win32Frame* frame);
 
   /// Makes these the options of one group.
   static void group(std::initializer_list<Win32OptionButton*> options);
@@ -35,7 +35,7 @@ class Win32OptionButton : public platform::OptionButton, public NativeWindow {
  private:
   void show();
 
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   platform::OptionButtonEvents events_;
   std::string caption_;
   bool selected_ = false;

@@ -13,7 +13,7 @@ constexpr UINT openNow = WM_APP;
 
 }  // namespace
 
-Win32PopupMenu::Win32PopupMenu(const platform::CommandGate& gate, std::function<HWND()> owner)
+Win32PopupMenu::Win32PopupMenu(const kit::CommandGate& gate, std::function<HWND()> owner)
     : gate_(gate), owner_(std::move(owner)) {}
 
 Win32PopupMenu::~Win32PopupMenu() { closeOpen(); }
@@ -51,7 +51,7 @@ void Win32PopupMenu::open() {
   GetCursorPos(&place);
   if (place_) place = place_();
   changed_ = false;
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   const std::optional<int> chosen = hasMany() ? chooseFromList(owner, place) : chooseFromMenu(owner, place);
   if (!alive || !chosen || changed_) return;
   gate_.pass();
@@ -64,7 +64,7 @@ std::optional<int> Win32PopupMenu::chooseFromMenu(HWND owner, POINT place) {
   for (const std::string& caption : visibleCaptions()) {
     AppendMenuW(menu, MF_STRING, ++command, withoutAccessKey(caption).c_str());
   }
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   tracking_ = true;
   const int chosen =
       TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON, place.x, place.y, owner, nullptr);
@@ -75,7 +75,7 @@ std::optional<int> Win32PopupMenu::chooseFromMenu(HWND owner, POINT place) {
 
 std::optional<int> Win32PopupMenu::chooseFromList(HWND owner, POINT place) {
   MenuList list(owner, visibleCaptions());
-  const Lifeline::Watch alive = lifeline_.watch();
+  const kit::Lifeline::Watch alive = lifeline_.watch();
   openList_ = &list;
   const std::optional<int> chosen = list.choose(place);
   if (alive) openList_ = nullptr;

@@ -5,10 +5,10 @@
 #include <optional>
 #include <utility>
 
-#include "platform/CommandGate.h"
-#include "platform/MenuItems.h"
+#include "kit/CommandGate.h"
+#include "kit/Lifeline.h"
+#include "kit/MenuItems.h"
 #include "win32/MessageWindow.h"
-#include "win32/Notify.h"
 
 namespace mavCycEd::win32 {
 
@@ -16,10 +16,10 @@ class MenuList;
 
 /// A pop-up menu. It opens when the procedure that asks for it has returned, because the system shows menus in a
 /// message loop of its own.
-class Win32PopupMenu : public platform::MenuItems, private MessageWindow {
+class Win32PopupMenu : public kit::MenuItems, private MessageWindow {
  public:
   /// `owner`: the window that the menu belongs to.
-  Win32PopupMenu(const platform::CommandGate& gate, std::function<HWND()> owner);
+  Win32PopupMenu(const kit::CommandGate& gate, std::function<HWND()> owner);
   ~Win32PopupMenu() override;
 
   /// Where the menu opens, in screen coordinates; at the pointer when nobody says.
@@ -50,14 +50,14 @@ class Win32PopupMenu : public platform::MenuItems, private MessageWindow {
   std::optional<int> chooseFromMenu(HWND owner, POINT place);
   std::optional<int> chooseFromList(HWND owner, POINT place);
 
-  const platform::CommandGate& gate_;
+  const kit::CommandGate& gate_;
   std::function<HWND()> owner_;
   std::function<POINT()> place_;
   bool waiting_ = false;
   bool tracking_ = false;         // a menu of the system's is open
   MenuList* openList_ = nullptr;  // or our list
   bool changed_ = false;          // the items, since it opened
-  Lifeline lifeline_;
+  kit::Lifeline lifeline_;
 };
 
 }  // namespace mavCycEd::win32

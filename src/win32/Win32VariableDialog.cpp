@@ -9,7 +9,7 @@
 
 namespace mavCycEd::win32 {
 
-VariableDialogControls::VariableDialogControls(HWND owner, const platform::CommandGate& gate)
+VariableDialogControls::VariableDialogControls(HWND owner, const kit::CommandGate& gate)
     : frmparams(owner),
       fraValue(frmparams.window().handle(), nullptr),
       txtParamName(Win32TextBox::Lines::One, frmparams.window().handle(), &fraValue),

@@ -4,8 +4,8 @@
 #include <memory>
 #include <utility>
 
+#include "kit/CommandGate.h"
 #include "panels/VariableDialogScreen.h"
-#include "platform/CommandGate.h"
 #include "win32/Win32Button.h"
 #include "win32/Win32ComboBox.h"
 #include "win32/Win32Frame.h"
@@ -21,7 +21,7 @@ namespace mavCycEd::win32 {
 
 /// The controls of the variable dialog, in the order of the Tab key.
 struct VariableDialogControls {
-  VariableDialogControls(HWND owner, const platform::CommandGate& gate);
+  VariableDialogControls(HWND owner, const kit::CommandGate& gate);
 
   Win32ModalDialog frmparams;
   Win32Frame fraValue;
@@ -62,7 +62,7 @@ class Win32VariableDialog : public VariableDialogWindow {
   void nameForPeople();
 
   std::shared_ptr<Win32VariableDialog*> place_;
-  platform::CommandGate gate_;
+  kit::CommandGate gate_;
   VariableDialogControls controls_;
   FontHandle font_;
 };

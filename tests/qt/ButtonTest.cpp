@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "TestWindow.h"
-#include "platform/CommandGate.h"
+#include "kit/CommandGate.h"
 #include "qt/QtButton.h"
 #include "qt/QtOptionButton.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 TEST(Button, ItsAccessKeyActsAtOnce) {
   QWidget window;
-  const platform::CommandGate gate;
+  const kit::CommandGate gate;
   qt::QtButton button(gate, "button", &window);
   button.setCaption("In&sert ");
   int clicks = 0;
@@ -31,7 +31,7 @@ TEST(Button, ItsAccessKeyActsAtOnce) {
 
 TEST(Button, ItsAccessKeyMayDestroyIt) {
   const QPointer<QWidget> window(new QWidget);
-  const platform::CommandGate gate;
+  const kit::CommandGate gate;
   auto* const button = new qt::QtButton(gate, "button", window);
   button->setCaption("In&sert ");
   button->setEvents({.Click = [&] {
@@ -45,7 +45,7 @@ TEST(Button, ItsAccessKeyMayDestroyIt) {
 
 TEST(OptionButton, ItsAccessKeyActsAtOnce) {
   QWidget window;
-  const platform::CommandGate gate;
+  const kit::CommandGate gate;
   qt::QtOptionButton number(gate, "number", &window);
   qt::QtOptionButton object(gate, "object", &window);
   number.setCaption("&Numeric Value");

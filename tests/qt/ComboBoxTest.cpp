@@ -43,7 +43,7 @@ class ComboBox : public testing::TestWithParam<qt::QtComboBox::Mode> {
   }
   std::vector<std::string> told() { return std::exchange(log, {}); }
 
-  platform::CommandGate gate;
+  kit::CommandGate gate;
   QWidget window;
   QPushButton other;
   qt::QtComboBox combo{gate, GetParam(), "combo", &window};
@@ -178,7 +178,7 @@ TEST_P(TypedComboBox, EnterAddsNoItemAndTakesNoSimilarOne) {
 
 TEST(PickOnlyComboBox, TypingAheadBeginsAnewBehindAnAccessKey) {
   QWidget window;
-  const platform::CommandGate gate;
+  const kit::CommandGate gate;
   qt::QtComboBox combo(gate, qt::QtComboBox::Mode::PickOnly, "combo", &window);
   combo.assign({"ASPIRATE", "WAIT", "WASH"});
   std::vector<std::string> picks;

@@ -6,7 +6,7 @@
 #include <QTest>
 
 #include "ListBoxContract.h"
-#include "platform/CommandGate.h"
+#include "kit/CommandGate.h"
 #include "platform/RunTimeError.h"
 #include "qt/QtListBox.h"
 #include "qt/QtSelectionList.h"
@@ -23,7 +23,7 @@ class QtEdition {
   platform::LineListBox& lines() { return lines_; }
 
  private:
-  platform::CommandGate gate_;
+  kit::CommandGate gate_;
   QWidget owner_;
   qt::QtItemListBox items_{gate_, "items", &owner_};
   qt::QtLineListBox lines_{gate_, "lines", &owner_};
@@ -47,7 +47,7 @@ class ListBox : public testing::Test {
   void click(int index) { QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, placeOf(index)); }
   std::vector<std::string> told() { return std::exchange(log, {}); }
 
-  platform::CommandGate gate;
+  kit::CommandGate gate;
   QWidget owner;
   qt::QtItemListBox list{gate, "list", nullptr};
   std::unique_ptr<QWidget> viewOwner{list.widget()};
@@ -241,7 +241,7 @@ class LineList : public testing::Test {
   }
   int topRow() { return view().indexAt(QPoint(2, 2)).row(); }
 
-  platform::CommandGate gate;
+  kit::CommandGate gate;
   QWidget owner;
   TestLines owned;
   qt::QtLineListBox list{gate, "list", &owner};

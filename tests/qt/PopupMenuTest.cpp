@@ -44,7 +44,7 @@ class PopupMenu : public testing::Test {
     QTest::keyClick(menu.widget(), Qt::Key_Return);
   }
 
-  platform::CommandGate gate;
+  kit::CommandGate gate;
   QWidget window;
   qt::QtPopupMenu menu{gate, "menu", &window};
   std::vector<int> chosen;

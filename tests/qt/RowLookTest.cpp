@@ -65,7 +65,7 @@ void expectFocusToBeSeen(QAbstractItemView& view, const QModelIndex& index, QWid
 TEST(RowLook, FocusIsSeenOnASelectedLine) {
   QWidget window;
   auto* const layout = new QVBoxLayout(&window);
-  const platform::CommandGate gate;
+  const kit::CommandGate gate;
   qt::QtItemListBox list(gate, "list", &window);
   auto* const other = new QPushButton(&window);
   layout->addWidget(list.widget());

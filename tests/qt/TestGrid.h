@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "TestWindow.h"
-#include "platform/CommandGate.h"
+#include "kit/CommandGate.h"
 #include "qt/CellEditors.h"
 #include "qt/QtButton.h"
 #include "qt/QtValueList.h"
@@ -81,7 +81,7 @@ class TestGrid {
   std::vector<std::string> told() { return std::exchange(log, {}); }
 
   QWidget window;
-  platform::CommandGate gate;
+  kit::CommandGate gate;
   qt::QtButton before{gate, "before", &window};
   qt::QtValueList grid{"grid", &window};
   qt::QtButton after{gate, "after", &window};

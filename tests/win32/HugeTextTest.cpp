@@ -124,7 +124,7 @@ TEST_F(Win32HugeText, TypingGoesOnInALongTextOfAComboBox) {
     SendMessageW(edit, EM_SETSEL, text.size(), static_cast<LPARAM>(text.size()));
     type(edit, L"y");
   };
-  platform::CommandGate gate;
+  kit::CommandGate gate;
   Win32ComboBox box(gate, Win32ComboBox::Mode::TypedToo, host_.handle(), nullptr);
   box.setText(fromWide(text));
   typeBehind(lineOfCombo(box.handle()));

@@ -17,7 +17,7 @@ class Win32Edition {
 
  private:
   HostWindow host_;
-  platform::CommandGate gate_;
+  kit::CommandGate gate_;
   Win32ItemListBox items_{gate_, host_.handle(), nullptr};
   Win32LineListBox lines_{gate_, host_.handle(), nullptr};
 };
@@ -42,7 +42,7 @@ class Win32ListBoxTest : public ::testing::Test {
   }
 
   HostWindow host_;
-  platform::CommandGate gate_;
+  kit::CommandGate gate_;
   Win32ItemListBox list_{gate_, host_.handle(), nullptr};
   std::vector<std::string> events_;
 };
@@ -123,7 +123,7 @@ TEST_F(Win32ListBoxTest, WithoutItsWindowItKeepsItsItems) {
 
 TEST(Win32LineListBox, ASpliceStaysWhereTheListIsScrolledTo) {
   const HostWindow host;
-  const platform::CommandGate gate;
+  const kit::CommandGate gate;
   Win32LineListBox list(gate, host.handle(), nullptr);
   list.setScreenFont(makeFont(systemFont(96)), 96);
   list.place({0, 0, 200, 200});

@@ -55,7 +55,7 @@ class Win32PopupMenuTest : public ::testing::Test {
 
   static constexpr int many = 100'000;
   HostWindow host_;
-  platform::CommandGate gate_;
+  kit::CommandGate gate_;
   std::unique_ptr<Win32PopupMenu> menu_;
   std::vector<int> chosen_;
   bool rescued_ = false;

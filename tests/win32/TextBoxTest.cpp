@@ -84,7 +84,7 @@ TEST_F(Win32TextBoxTest, LoadedCharactersThatTypedOnesWouldEndALineStay) {
 
 TEST(Win32ComboBoxTyping, BeginsAnewBehindAnAccessKey) {
   const HostWindow host;
-  const platform::CommandGate gate;
+  const kit::CommandGate gate;
   Win32ComboBox combo(gate, Win32ComboBox::Mode::PickOnly, host.handle(), nullptr);
   combo.assign({"ASPIRATE", "WAIT", "WASH"});
   std::vector<std::string> picks;

@@ -3,7 +3,7 @@
 #include <functional>
 #include <utility>
 
-namespace mavCycEd::platform {
+namespace mavCycEd::kit {
 
 /// What every command of an edition with windows passes before it runs, whether a user or the host gives it: an edit
 /// that is still open in the window's grid ends first, so that its value is checked and nothing typed is lost.
@@ -21,4 +21,4 @@ class CommandGate {
   std::function<void()> endEdit_;
 };
 
-}  // namespace mavCycEd::platform
+}  // namespace mavCycEd::kit

@@ -8,12 +8,12 @@
 
 #include "platform/PopupMenu.h"
 
-namespace mavCycEd::platform {
+namespace mavCycEd::kit {
 
 /// The items of a pop-up menu and their rules, the same for every edition. What is left to an edition is to show them.
-class MenuItems : public PopupMenu {
+class MenuItems : public platform::PopupMenu {
  public:
-  void setEvents(PopupMenuEvents events) override { events_ = std::move(events); }
+  void setEvents(platform::PopupMenuEvents events) override { events_ = std::move(events); }
   std::string caption() const override { return caption_; }
   void setCaption(std::string_view caption) override { caption_ = caption; }
   int itemCount() const override { return static_cast<int>(items_.size()); }
@@ -32,7 +32,7 @@ class MenuItems : public PopupMenu {
   std::vector<std::string> visibleCaptions() const;
 
  protected:
-  const PopupMenuEvents& events() const { return events_; }
+  const platform::PopupMenuEvents& events() const { return events_; }
   /// An item has come, gone or changed.
   virtual void itemsChanged() {}
 
@@ -43,9 +43,9 @@ class MenuItems : public PopupMenu {
   };
   int checked(int index) const;
 
-  PopupMenuEvents events_;
+  platform::PopupMenuEvents events_;
   std::string caption_;
   std::map<int, Item> items_{{0, Item{}}};
 };
 
-}  // namespace mavCycEd::platform
+}  // namespace mavCycEd::kit

@@ -1,8 +1,8 @@
-#include "platform/MenuItems.h"
+#include "kit/MenuItems.h"
 
 #include "platform/RunTimeError.h"
 
-namespace mavCycEd::platform {
+namespace mavCycEd::kit {
 
 int MenuItems::checked(int index) const {
   if (!hasItem(index)) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
@@ -46,4 +46,4 @@ std::vector<std::string> MenuItems::visibleCaptions() const {
   return captions;
 }
 
-}  // namespace mavCycEd::platform
+}  // namespace mavCycEd::kit
