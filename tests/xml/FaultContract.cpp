@@ -1,7 +1,7 @@
 // Why a text holds no document, and where.
-#include <array>
-
 #include "XmlDocumentContract.h"
+
+#include <array>
 
 namespace mavCycEd::test {
 namespace {
