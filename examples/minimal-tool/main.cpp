@@ -9,11 +9,12 @@
 #include <mavCycEd/CycleReading.h>
 #include <mavCycEd/CycleWriting.h>
 
+#include <array>
+#include <cstddef>
 #include <cstdlib>
 #include <exception>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -43,7 +44,11 @@ class Failures {
 
 std::optional<std::string> contentOf(const std::string& name, Failures& failures) {
   std::ifstream file(name, std::ios::binary);
-  std::string content{std::istreambuf_iterator<char>(file), {}};
+  std::string content;
+  std::array<char, 65536> buffer{};
+  while (file.read(buffer.data(), buffer.size()), file.gcount() > 0) {
+    content.append(buffer.data(), static_cast<std::size_t>(file.gcount()));
+  }
   if (file.is_open() && !file.bad()) return content;
   failures.tell(name + ": The file cannot be read. Check its name, and whether you may read it.");
   return std::nullopt;
