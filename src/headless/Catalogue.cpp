@@ -118,12 +118,7 @@ Reading<Catalogue> Catalogue::read(std::string_view text, const Configuration& c
   libxml2::Libxml2DocumentFactory xmlDocuments;
   std::shared_ptr<platform::XmlDocument> document = xmlDocuments.createDocument();
   Reading<Catalogue> reading;
-  if (!document->loadXML(text)) {
-    reading.faults.push_back(headless::xmlFault(text, xmlDocuments));
-    return reading;
-  }
-  const platform::XmlNode root = document->documentNode().firstChild();
-  if (auto fault = headless::rootFault(text, root.nodeName(), headless::DocumentKind::Catalogue)) {
+  if (auto fault = headless::load(*document, text, headless::DocumentKind::Catalogue, xmlDocuments)) {
     reading.faults.push_back(*std::move(fault));
     return reading;
   }

@@ -11,12 +11,7 @@ Reading<Configuration> Configuration::read(std::string text) {
   libxml2::Libxml2DocumentFactory xmlDocuments;
   const std::unique_ptr<platform::XmlDocument> document = xmlDocuments.createDocument();
   Reading<Configuration> reading;
-  if (!document->loadXML(text)) {
-    reading.faults.push_back(headless::xmlFault(text, xmlDocuments));
-    return reading;
-  }
-  const platform::XmlNode root = document->documentNode().firstChild();
-  if (auto fault = headless::rootFault(text, root.nodeName(), headless::DocumentKind::Configuration)) {
+  if (auto fault = headless::load(*document, text, headless::DocumentKind::Configuration, xmlDocuments)) {
     reading.faults.push_back(*std::move(fault));
     return reading;
   }

@@ -62,8 +62,6 @@ std::size_t offsetOfElement(std::string_view text, std::size_t number) {
 
 }  // namespace
 
-std::string_view rootOf(DocumentKind kind) { return factsOf(kind).root; }
-
 TextFault xmlFault(std::string_view text, platform::XmlDocumentFactory& xmlDocuments) {
   const platform::XmlFault fault = xmlDocuments.faultIn(text).value_or(platform::XmlFault());
   return {kindOf(fault.kind), fault.line, fault.column, fault.message};
@@ -79,6 +77,12 @@ std::optional<TextFault> rootFault(std::string_view text, std::string_view root,
   TextFault fault = faultAtElement(text, 1, std::move(message));
   fault.kind = TextFault::Kind::OtherRoot;
   return fault;
+}
+
+std::optional<TextFault> load(platform::XmlDocument& document, std::string_view text, DocumentKind kind,
+                              platform::XmlDocumentFactory& xmlDocuments) {
+  if (!document.loadXML(text)) return xmlFault(text, xmlDocuments);
+  return rootFault(text, document.documentNode().firstChild().nodeName(), kind);
 }
 
 TextFault faultAtElement(std::string_view text, std::size_t number, std::string message) {
