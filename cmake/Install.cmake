@@ -2,17 +2,18 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-set(installed_targets mavCycEd_core mavCycEd_libxml2 mavCycEd_memory)
+set(installed_targets mavCycEd_core mavCycEd_libxml2 mavCycEd_headless mavCycEd_memory)
 if(MAVCYCED_QT)
   list(APPEND installed_targets mavCycEd_mavCycEd)
   install(DIRECTORY src/qt/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 endif()
 install(TARGETS ${installed_targets} EXPORT mavCycEdTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 
-# The public headers name headers of the core: the ports and the atom list provider.
+# What needs no window, and the values that all share.
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(DIRECTORY src/platform src/text src/kit src/catalogue src/rules src/cycle src/panels src/control
-  src/memory
+
+# The other public headers name headers of the core: the ports and the atom list provider.
+install(DIRECTORY src/platform src/text src/kit src/catalogue src/rules src/cycle src/panels src/control src/memory
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/mavCycEd/core FILES_MATCHING PATTERN "*.h")
 install(FILES src/libxml2/Libxml2DocumentFactory.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/mavCycEd/core/libxml2)
 

@@ -1,64 +1,30 @@
 #include "MacroExport.h"
 
-#include <QXmlStreamReader>
-#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+#include "mavCycEd/CycleReading.h"
+#include "mavCycEd/MacroLosses.h"
 
 namespace mavCycEd::host {
 namespace {
 
-/// A cycle document, as far as a macro text has to carry it.
-struct Cycle {
-  struct AtomLine {
-    QString name;
-    QStringList values;
-  };
-  QString description;
-  QStringList variables;
-  QList<AtomLine> lines;
-};
-
-Cycle readCycle(const QString& document) {
-  Cycle cycle;
-  QXmlStreamReader reader(document);
-  while (!reader.atEnd()) {
-    if (reader.readNext() != QXmlStreamReader::StartElement) continue;
-    const QStringView element = reader.name();
-    if (element == QLatin1String("DESCRIPTION")) {
-      cycle.description = reader.readElementText();
-    } else if (element == QLatin1String("VALUE")) {
-      cycle.variables << reader.readElementText();
-    } else if (element == QLatin1String("ATOMNAME")) {
-      cycle.lines << Cycle::AtomLine{reader.readElementText(), {}};
-    } else if (element == QLatin1String("PARAMVALUE") && !cycle.lines.isEmpty()) {
-      cycle.lines.last().values << reader.readElementText();
-    }
-  }
-  return cycle;
-}
-
-bool hasLineEnd(const QString& text) { return text.contains(u'\n') || text.contains(u'\r'); }
-
-/// What macro texts take for the name in an atom call.
-bool isCallName(const QString& name) {
-  return name.size() > 1 && std::ranges::all_of(name, [](QChar c) { return (c >= u'A' && c <= u'Z') || c == u'_'; });
-}
-
-bool readsAsVariable(const QString& line) {
-  const qsizetype open = line.indexOf(u'(');
-  return !line.startsWith(QLatin1String("//")) && (open < 0 || !isCallName(line.left(open)));
-}
-
-/// The first atom lines that a property holds for, by their numbers and names; empty when it holds for none.
-template <typename Property>
-QString linesWith(const Cycle& cycle, Property property) {
-  constexpr qsizetype mostNamed = 3;
+/// The first of some atom lines, by their numbers and names.
+QString named(const std::vector<std::size_t>& lines, const Cycle& cycle) {
+  constexpr std::size_t mostNamed = 3;
   QStringList names;
-  for (qsizetype i = 0; i < cycle.lines.size(); ++i) {
-    if (property(cycle.lines[i])) names << QStringLiteral("%1 %2").arg(i + 1).arg(cycle.lines[i].name);
+  for (const std::size_t line : lines) {
+    if (names.size() == mostNamed) break;
+    names << QStringLiteral("%1 %2").arg(line + 1).arg(QString::fromStdString(cycle.lines[line].name));
   }
-  const qsizetype more = names.size() - mostNamed;
-  if (more <= 0) return names.join(QStringLiteral(", "));
-  return names.first(mostNamed).join(QStringLiteral(", ")) + QStringLiteral(" and %1 more").arg(more);
+  if (lines.size() <= mostNamed) return names.join(QStringLiteral(", "));
+  return names.join(QStringLiteral(", ")) + QStringLiteral(" and %1 more").arg(lines.size() - mostNamed);
+}
+
+QString named(const std::vector<std::size_t>& variables, const std::vector<VariableDefinition>& all) {
+  QStringList names;
+  for (const std::size_t variable : variables) names << QString::fromStdString(all[variable].text());
+  return names.join(QStringLiteral(", "));
 }
 
 }  // namespace
@@ -66,29 +32,24 @@ QString linesWith(const Cycle& cycle, Property property) {
 QString macroFileOf(const QString& macroText) { return QStringLiteral("[PMA]\r\n") + macroText; }
 
 QStringList lostInMacroText(const QString& document) {
-  const Cycle cycle = readCycle(document);
-  QStringList losses;
-  const auto tell = [&losses](const QString& sentence, const QString& which) {
-    if (!which.isEmpty()) losses << sentence.arg(which);
+  const Reading<ReadCycle> reading = readCycleDocument(document.toStdString());
+  if (!reading.value) return {};
+  const Cycle& cycle = reading.value->cycle;
+  const MacroLosses losses = mavCycEd::lostInMacroText(cycle);
+  QStringList sentences;
+  const auto tell = [&sentences](const QString& sentence, const QString& which) {
+    if (!which.isEmpty()) sentences << sentence.arg(which);
   };
-  const QString description = cycle.description.trimmed();
-  if (hasLineEnd(description)) {
-    losses << QStringLiteral("Only the first line of the description stays a description.");
+  if (losses.description) {
+    sentences << QStringLiteral("Only the first line of the description stays a description.");
   }
-  tell(QStringLiteral("An atom line with one parameter loses its value: %1."),
-       linesWith(cycle, [](const auto& line) { return line.values.size() == 1 && !line.values.front().isEmpty(); }));
+  tell(QStringLiteral("An atom line with one parameter loses its value: %1."), named(losses.droppedValues, cycle));
   tell(QStringLiteral("An atom line whose name is not made of A to Z and _ becomes a variable: %1."),
-       linesWith(cycle, [](const auto& line) { return !isCallName(line.name); }));
-  tell(QStringLiteral("A value with a comma or a line end is torn apart: %1."), linesWith(cycle, [](const auto& line) {
-         return line.values.size() > 1 && std::ranges::any_of(line.values, [](const QString& value) {
-                  return value.contains(u',') || hasLineEnd(value);
-                });
-       }));
-  QStringList others = cycle.variables;
-  others.removeIf(readsAsVariable);
+       named(losses.noCalls, cycle));
+  tell(QStringLiteral("A value with a comma or a line end is torn apart: %1."), named(losses.tornValues, cycle));
   tell(QStringLiteral("A variable that reads like another kind of line becomes one: %1."),
-       others.join(QStringLiteral(", ")));
-  return losses;
+       named(losses.otherVariables, cycle.variables));
+  return sentences;
 }
 
 }  // namespace mavCycEd::host

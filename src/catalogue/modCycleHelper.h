@@ -9,7 +9,7 @@
 
 #include "catalogue/CatalogueIndex.h"
 #include "catalogue/CatalogueText.h"
-#include "catalogue/Configuration.h"
+#include "catalogue/ConfigurationReader.h"
 #include "platform/OptionButton.h"
 #include "platform/ValueListActiveX.h"
 #include "platform/XmlDocument.h"
@@ -24,7 +24,7 @@ class modCycleHelper {
 
   /// Keeps a shared reference to the catalogue; every question about the catalogue reads it.
   void setCatalogue(std::shared_ptr<platform::XmlDocument> catalogue);
-  Configuration& configuration() { return configuration_; }
+  ConfigurationReader& configuration() { return configuration_; }
 
   /// The ATOM elements, in document order.
   platform::XmlNodeList atoms() const;
@@ -55,7 +55,7 @@ class modCycleHelper {
  private:
   platform::XmlNodeList select(std::string_view path) const;
 
-  Configuration configuration_;
+  ConfigurationReader configuration_;
   std::shared_ptr<platform::XmlDocument> catalogue_;
   std::optional<CatalogueIndex> index_;  // nothing without a catalogue
 };

@@ -43,6 +43,7 @@ class CycleContent : public platform::XmlContent {
  public:
   void startElement(std::string_view name, const std::vector<platform::XmlAttribute>& attributes) override {
     ++depth_;
+    if (++elements_ == 1) loaded_.root = name;
     loaded_.isEmpty = false;
     if (depth_ > placedDepth_ + 1) return;  // in an element that is read as a text, or not at all
     const Place place = placeOf(name);
@@ -127,26 +128,29 @@ class CycleContent : public platform::XmlContent {
   }
 
   void startAtom() {
+    atom_ = elements_;
     atomName_.reset();
     parameters_ = {};
     atomLacksElement_ = false;
   }
 
   void startParameter() {
+    parameter_ = elements_;
     paramName_.reset();
     paramValue_.reset();
   }
 
   void endParameter() {
     if (!paramName_ || !paramValue_) {
-      atomLacksElement_ = true;
+      noteLack(parameter_, paramName_ ? "PARAMVALUE" : "PARAMNAME");
       return;
     }
     parameters_.append(*paramName_, *paramValue_);
   }
 
   void endAtom() {
-    if (!atomName_ || atomLacksElement_) {
+    if (!atomName_) noteLack(atom_, "ATOMNAME");
+    if (atomLacksElement_) {
       loaded_.lacksElement = true;
       return;
     }
@@ -154,6 +158,18 @@ class CycleContent : public platform::XmlContent {
     loaded_.cycle.lines.push_back({std::move(*atomName_), std::move(parameters_)});
   }
 
+  // The first element of an atom that lacks one.
+  void noteLack(std::size_t element, std::string_view missing) {
+    if (!atomLacksElement_) {
+      loaded_.elementWithout = element;
+      loaded_.missingElement = missing;
+    }
+    atomLacksElement_ = true;
+  }
+
+  std::size_t elements_ = 0;   // that have been started
+  std::size_t atom_ = 0;       // the number of the open ATOM among them
+  std::size_t parameter_ = 0;  // the number of the open PARAMETER
   int depth_ = 0;
   int placedDepth_ = 0;          // of the innermost open element that has a place
   std::vector<Place> places_;    // of the open elements that have one

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "cycle/ReferenceCycle.h"
@@ -16,6 +18,10 @@ struct LoadedCycle {
   bool hasVariables = false;  ///< whether there is CYCLE/VARIABLES
   bool hasAtoms = false;      ///< whether there is CYCLE/ATOMSEQUENCE/ATOMS
   bool lacksElement = false;  ///< an ATOM without name, or a PARAMETER without name or value, ended the lines
+
+  std::string root;                ///< the name of the outermost element
+  std::string missingElement;      ///< what was lacking: ATOMNAME, PARAMNAME or PARAMVALUE
+  std::size_t elementWithout = 0;  ///< which element lacks it, counted from 1 in document order
 };
 
 /// Reads a cycle document in one go; nothing is loaded from a text that holds no document.

@@ -1,5 +1,7 @@
 #include "cycle/MacroLines.h"
 
+#include <algorithm>
+
 #include "cycle/CycleText.h"
 #include "platform/RunTimeError.h"
 #include "rules/ObjectTests.h"
@@ -21,16 +23,17 @@ MacroLine::Kind kindOf(std::string_view line) {
   return IsAnObject(line) ? MacroLine::Kind::AtomCall : MacroLine::Kind::Variable;
 }
 
-// An atom line as a call: the values only where there is more than one parameter.
+// Whether a parameter lacks what would be written. Only lines with more than one parameter are written with values.
+bool lacksValue(const std::vector<ParameterSegment>& parameters) {
+  return parameters.size() >= 2 && !std::ranges::all_of(parameters, &ParameterSegment::hasValue);
+}
+
 std::string atomCall(const AtomLine& line) {
-  const auto segments = line.parameters.segments();
+  const auto parameters = line.parameters.segments();
+  if (lacksValue(parameters)) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
   std::vector<std::string> values;
-  if (segments.size() >= 2) {
-    for (const ParameterSegment& segment : segments) {
-      const auto fields = segment.fields();
-      if (fields.size() < 2) throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
-      values.emplace_back(fields[1]);
-    }
+  if (parameters.size() >= 2) {
+    for (const ParameterSegment& parameter : parameters) values.emplace_back(parameter.fields()[1]);
   }
   return line.name + "(" + text::join(values, ",") + ")";
 }
@@ -52,11 +55,22 @@ bool isMacroText(std::string_view text) {
   return end != std::string_view::npos && text.substr(0, end) == header;
 }
 
+MacroLine macroLineOf(std::string_view line) { return {kindOf(line), line}; }
+
 std::vector<MacroLine> macroLines(std::string_view text) {
   std::vector<MacroLine> lines;
-  for (const std::string_view line : text::split(text, crLf)) lines.push_back({kindOf(line), line});
+  for (const std::string_view line : text::split(text, crLf)) lines.push_back(macroLineOf(line));
   return lines;
 }
+
+std::optional<std::size_t> lineWithoutName(const Cycle& cycle) {
+  const auto found =
+      std::ranges::find_if(cycle.lines, [](const AtomLine& line) { return lacksValue(line.parameters.segments()); });
+  if (found == cycle.lines.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - cycle.lines.begin());
+}
+
+std::string macroHeader() { return std::string(header).append(crLf); }
 
 std::string macroTextOf(const Cycle& cycle) {
   std::string macro(descriptionMarker);

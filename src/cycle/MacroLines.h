@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,10 +39,17 @@ struct MacroLine {
 /// Whether a text is a macro text: at least one line break, and the first line exactly "[PMA]".
 bool isMacroText(std::string_view text);
 
+/// What a line by itself is.
+MacroLine macroLineOf(std::string_view line);
 /// The lines of a macro text. They point into it.
 std::vector<MacroLine> macroLines(std::string_view text);
 
-/// A cycle as a macro text, without the header. A parameter without a value field is run-time error 9.
+/// The line of a cycle that keeps it from being written, from 0: one with several parameters of which one has no name,
+/// and therefore no value field. Nothing where every line can be written.
+std::optional<std::size_t> lineWithoutName(const Cycle& cycle);
+/// The line that starts a macro text, its line end included.
+std::string macroHeader();
+/// A cycle as a macro text, without the header. A line that cannot be written is run-time error 9.
 std::string macroTextOf(const Cycle& cycle);
 
 }  // namespace mavCycEd

@@ -1,19 +1,12 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
+#include "mavCycEd/CycleFacts.h"
 #include "platform/XmlDocument.h"
 
 namespace mavCycEd {
-
-/// What a cycle document says of itself, beside the cycle.
-struct CycleFacts {
-  std::optional<std::string> version;   ///< CYCLE/VERSION
-  std::optional<std::string> created;   ///< the attribute Created of CYCLE
-  std::optional<std::string> modified;  ///< the attribute Modified of CYCLE
-};
 
 CycleFacts factsOf(platform::XmlDocument& document);
 

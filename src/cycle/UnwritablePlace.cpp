@@ -78,7 +78,7 @@ std::optional<UnwritablePlace> unwritablePlace(const Cycle& cycle, platform::Xml
   return std::nullopt;
 }
 
-std::string describe(const UnwritablePlace& place) {
+std::string reasonOf(const UnwritablePlace& place) {
   const std::string line = "line " + std::to_string(place.index + 1);
   std::string what;
   switch (place.what) {
@@ -90,8 +90,11 @@ std::string describe(const UnwritablePlace& place) {
     case UnwritablePlace::What::Variable: what = "the variable " + quoted(place.text); break;
   }
   return "The cycle cannot be written as a cycle document: " + what +
-         " holds markup (\"<\" or \"&\") or a character that XML does not allow. Change it, and hand the cycle back "
-         "again.";
+         " holds markup (\"<\" or \"&\") or a character that XML does not allow.";
+}
+
+std::string describe(const UnwritablePlace& place) {
+  return reasonOf(place) + " Change it, and hand the cycle back again.";
 }
 
 }  // namespace mavCycEd

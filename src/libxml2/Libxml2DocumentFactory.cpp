@@ -3,6 +3,7 @@
 #include <libxml/parser.h>
 
 #include "libxml2/ContentReader.h"
+#include "libxml2/FaultFinder.h"
 #include "libxml2/Libxml2Document.h"
 
 namespace mavCycEd::libxml2 {
@@ -24,6 +25,11 @@ std::unique_ptr<platform::XmlDocument> Libxml2DocumentFactory::createDocument() 
 bool Libxml2DocumentFactory::readDocument(std::string_view text, platform::XmlContent& content) {
   readyLibrary();
   return readContent(text, content);
+}
+
+std::optional<platform::XmlFault> Libxml2DocumentFactory::faultIn(std::string_view text) {
+  readyLibrary();
+  return libxml2::faultIn(text);
 }
 
 }  // namespace mavCycEd::libxml2

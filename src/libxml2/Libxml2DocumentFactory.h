@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "platform/XmlDocument.h"
@@ -12,6 +13,7 @@ class Libxml2DocumentFactory final : public platform::XmlDocumentFactory {
  public:
   std::unique_ptr<platform::XmlDocument> createDocument() override;
   bool readDocument(std::string_view text, platform::XmlContent& content) override;
+  std::optional<platform::XmlFault> faultIn(std::string_view text) override;
 };
 
 }  // namespace mavCycEd::libxml2

@@ -6,10 +6,13 @@
 #include <algorithm>
 #include <climits>
 #include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <new>
 #include <string>
+#include <utility>
 
+#include "libxml2/FaultMessage.h"
 #include "libxml2/Layout.h"
 #include "text/XmlText.h"
 
@@ -31,6 +34,7 @@ struct Progress {
   bool inText = false;          // the last piece was of a text that is no layout
   bool namespaceError = false;
   std::exception_ptr failure;
+  ParseFault* fault = nullptr;  // where the first reason for a failure goes; null when nobody asks, or it is known
 };
 
 xmlParserCtxt& parserOf(void* context) { return *static_cast<xmlParserCtxt*>(context); }
@@ -49,8 +53,24 @@ void run(void* context, const Body& body) noexcept {
   }
 }
 
+// Where the parser is, in bytes of what it parses.
+std::size_t offsetOf(xmlParserCtxt& parser) {
+  const long consumed = xmlByteConsumed(&parser);
+  return consumed < 0 ? 0 : static_cast<std::size_t>(consumed);
+}
+
+// Keeps the first reason for a failure.
+void keepFault(Progress& progress, ParseFault fault) {
+  if (progress.fault != nullptr) *std::exchange(progress.fault, nullptr) = std::move(fault);
+}
+
 void refuseDocumentType(void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
-  xmlStopParser(&parserOf(context));
+  xmlParserCtxt& parser = parserOf(context);
+  run(context, [&](Progress& progress) {
+    keepFault(progress, {platform::XmlFault::Kind::DocumentType, offsetOf(parser),
+                         "A document type declaration (DOCTYPE) is not accepted."});
+  });
+  xmlStopParser(&parser);
 }
 
 // White space beside markup is layout.
@@ -124,9 +144,14 @@ void takeInstruction(void* context, const xmlChar* target, const xmlChar* data) 
 // none.
 template <typename Error>
 void noteError(void* context, Error error) {
-  if (error->domain == XML_FROM_NAMESPACE && error->level >= XML_ERR_ERROR && error->code != XML_WAR_NS_URI) {
-    static_cast<Progress*>(parserOf(context)._private)->namespaceError = true;
-  }
+  Progress& progress = *static_cast<Progress*>(parserOf(context)._private);
+  const bool ofNamespaces =
+      error->domain == XML_FROM_NAMESPACE && error->level >= XML_ERR_ERROR && error->code != XML_WAR_NS_URI;
+  if (ofNamespaces) progress.namespaceError = true;
+  if (progress.fault == nullptr || (!ofNamespaces && error->level != XML_ERR_FATAL)) return;
+  run(context, [&](Progress&) {
+    keepFault(progress, {platform::XmlFault::Kind::NotWellFormed, offsetOf(parserOf(context)), messageOf(*error)});
+  });
 }
 
 void setUp(xmlParserCtxt& parser, Progress& progress) {
@@ -146,15 +171,54 @@ void setUp(xmlParserCtxt& parser, Progress& progress) {
   calls.serror = noteError;
 }
 
+// Whatever begins otherwise is no XML, and libxml2 would take some of it for another encoding.
+bool beginsAsDocument(std::string_view text) {
+  return !text.empty() && (text.front() == '<' || isWhiteSpace(text.front()));
+}
+
+bool isBlank(std::string_view text) { return std::ranges::all_of(text, isWhiteSpace); }
+
+bool isParsable(std::string_view text) {
+  return beginsAsDocument(text) && !isBlank(text) && text.size() <= INT_MAX && text::isXmlText(text);
+}
+
+// Why a text is not even parsed.
+ParseFault faultBeforeParsing(std::string_view text) {
+  using Kind = platform::XmlFault::Kind;
+  if (isBlank(text)) return {Kind::Empty, 0, "The text is empty."};
+  const std::size_t size = text::xmlTextSize(text);
+  if (size < text.size()) {
+    const auto character = text::forbiddenCharacter(text.substr(size));
+    if (!character) return {Kind::ForbiddenCharacter, size, "The text is not UTF-8."};
+    return {Kind::ForbiddenCharacter, size,
+            "The character with the code " + std::to_string(static_cast<std::uint32_t>(*character)) +
+                " is not allowed in XML."};
+  }
+  if (!beginsAsDocument(text)) return {Kind::NotWellFormed, 0, "A document begins with \"<\"."};
+  return {Kind::NotWellFormed, 0, "The text is too long."};
+}
+
+// The parser tells a document type declaration only behind it.
+void placeFault(std::string_view text, ParseFault& fault) {
+  if (fault.kind != platform::XmlFault::Kind::DocumentType) return;
+  const std::size_t declaration = text.rfind("<!DOCTYPE", fault.at);
+  if (declaration != std::string_view::npos) fault.at = declaration;
+}
+
 }  // namespace
 
-Owner<xmlParserCtxt> parse(std::string_view text, ParserEvents& events) {
-  if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
-  // Whatever begins otherwise is no XML, and libxml2 would take some of it for another encoding.
-  if (text.empty() || (text.front() != '<' && !isWhiteSpace(text.front()))) return nullptr;
-  if (text.size() > INT_MAX || !text::isXmlText(text)) return nullptr;
+Owner<xmlParserCtxt> parse(std::string_view text, ParserEvents& events, ParseFault* fault) {
+  const std::size_t markSize = text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
+  text.remove_prefix(markSize);
+  if (!isParsable(text)) {
+    if (fault != nullptr) {
+      *fault = faultBeforeParsing(text);
+      fault->at += markSize;
+    }
+    return nullptr;
+  }
 
-  Progress progress{.events = events, .blanks = {}, .failure = {}};
+  Progress progress{.events = events, .blanks = {}, .failure = {}, .fault = fault};
   Owner<xmlParserCtxt> parser(made(xmlCreateMemoryParserCtxt(text.data(), static_cast<int>(text.size()))));
   setUp(*parser, progress);
   xmlParseDocument(parser.get());
@@ -162,11 +226,14 @@ Owner<xmlParserCtxt> parse(std::string_view text, ParserEvents& events) {
   if (progress.failure) std::rethrow_exception(progress.failure);
   if (parser->errNo == XML_ERR_NO_MEMORY) throw std::bad_alloc();
   const bool stopped = parser->disableSAX != 0;
-  if (parser->wellFormed == 0 || stopped || progress.namespaceError) {
-    xmlFreeDoc(parser->myDoc);
-    return nullptr;
+  if (parser->wellFormed != 0 && !stopped && !progress.namespaceError) return parser;
+  keepFault(progress, {platform::XmlFault::Kind::NotWellFormed, offsetOf(*parser), messageOf(xmlError{})});
+  if (fault != nullptr) {
+    placeFault(text, *fault);
+    fault->at += markSize;
   }
-  return parser;
+  xmlFreeDoc(parser->myDoc);
+  return nullptr;
 }
 
 }  // namespace mavCycEd::libxml2

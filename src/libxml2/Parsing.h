@@ -2,9 +2,12 @@
 
 #include <libxml/parser.h>
 
+#include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "libxml2/Ownership.h"
+#include "platform/XmlFault.h"
 
 namespace mavCycEd::libxml2 {
 
@@ -34,9 +37,17 @@ class ParserEvents {
   virtual void instruction(xmlParserCtxt& parser, const xmlChar* target, const xmlChar* data) = 0;
 };
 
+/// The first reason for which a text holds no document.
+struct ParseFault {
+  platform::XmlFault::Kind kind = platform::XmlFault::Kind::NotWellFormed;
+  std::size_t at = 0;   ///< in bytes from the start of the text
+  std::string message;  ///< for people
+};
+
 /// Parses a text under the rules of platform::XmlDocument, except that line ends written as character references come
-/// as they are. The parser with what it made; nothing when the text holds no document.
-Owner<xmlParserCtxt> parse(std::string_view text, ParserEvents& events);
+/// as they are. The parser with what it made; nothing when the text holds no document, with the reason in `fault` for
+/// whoever wants to know it.
+Owner<xmlParserCtxt> parse(std::string_view text, ParserEvents& events, ParseFault* fault = nullptr);
 
 inline bool holdsCarriageReturn(std::string_view text) { return text.find('\r') != std::string_view::npos; }
 

@@ -1,11 +1,10 @@
 #include "memory/MemoryServices.h"
 
-#include <array>
 #include <cerrno>
-#include <chrono>
-#include <ctime>
 #include <limits>
 #include <system_error>
+
+#include "platform/LocalTime.h"
 
 namespace mavCycEd::memory {
 
@@ -20,17 +19,6 @@ std::string StandardSystemMessage::formatMessage(std::int32_t code) const {
 
 std::int32_t StandardSystemMessage::lastErrorCode() const { return errno; }
 
-std::string SystemClock::localTimestamp() const {
-  const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-  std::tm local{};
-#ifdef _WIN32
-  localtime_s(&local, &now);
-#else
-  localtime_r(&now, &local);
-#endif
-  std::array<char, 32> text{};
-  const std::size_t size = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &local);
-  return {text.data(), size};
-}
+std::string SystemClock::localTimestamp() const { return platform::localTimestamp(); }
 
 }  // namespace mavCycEd::memory

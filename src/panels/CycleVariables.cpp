@@ -5,9 +5,9 @@
 #include <memory>
 #include <utility>
 
+#include "mavCycEd/VariableUses.h"
 #include "panels/StepNames.h"
 #include "panels/frmparams.h"
-#include "rules/VariableUses.h"
 #include "text/LineEnds.h"
 #include "text/MessageTitles.h"
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/XmlContent.h"
+#include "platform/XmlFault.h"
 #include "platform/XmlNode.h"
 
 namespace mavCycEd::platform {
@@ -49,6 +51,9 @@ class XmlDocumentFactory {
   /// Reads a text once from start to end, without making a document: `content` hears what XmlDocument::loadXML would
   /// load. False when the text holds no document; what was heard before that is of no meaning then.
   virtual bool readDocument(std::string_view text, XmlContent& content) = 0;
+  /// Why readDocument() and XmlDocument::loadXML find no document in a text: the first fault; nothing where they find
+  /// one. It reads the text anew: ask when there was none.
+  virtual std::optional<XmlFault> faultIn(std::string_view text) = 0;
 };
 
 }  // namespace mavCycEd::platform

@@ -5,20 +5,10 @@
 #include <string_view>
 
 #include "catalogue/modCycleHelper.h"
+#include "mavCycEd/ValueFault.h"
 #include "rules/ParamRowTable.h"
 
 namespace mavCycEd {
-
-/// Why a value may not stand in a row.
-struct ValueFault {
-  enum class Kind {
-    OutOfRange,     ///< below the lower or above the upper limit
-    OffStep,        ///< within the limits, and between two steps
-    NotReckonable,  ///< a value beyond single precision, or a step that is none: nothing can be told of it
-  };
-  Kind kind = Kind::OutOfRange;
-  std::string wanted;  ///< what would be right, for people: "10 to 500, in steps of 5"
-};
 
 /// Whether a value may stand in a row of these facts: nothing where it may. A number is compared with the row's limits,
 /// both inclusive, in single precision, and with its step: the whole-number remainder of Factor x value by Factor x

@@ -1,4 +1,4 @@
-#include "rules/VariableUses.h"
+#include "mavCycEd/VariableUses.h"
 
 #include <algorithm>
 

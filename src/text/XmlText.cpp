@@ -85,15 +85,30 @@ constexpr std::array<bool, 256> isPlain = makePlainTable();
 
 }  // namespace
 
-bool isXmlText(std::string_view text) {
+std::size_t xmlTextSize(std::string_view text) {
+  const std::size_t whole = text.size();
   while (true) {
     text.remove_prefix(asciiRun(text));
-    if (text.empty()) return true;
+    if (text.empty()) return whole;
     const std::size_t size = firstCharacterSize(text);
     const char32_t character = firstCharacter(text);
-    if (isForbidden(character) || isNoUtf8(character, size)) return false;
+    if (isForbidden(character) || isNoUtf8(character, size)) return whole - text.size();
     text.remove_prefix(size);
   }
+}
+
+std::optional<char32_t> forbiddenCharacter(std::string_view text) {
+  if (text.empty()) return std::nullopt;
+  if (surrogateSize(text) != 0) {
+    const auto bits = [text](std::size_t i) {
+      return static_cast<char32_t>(static_cast<unsigned char>(text[i])) & 0x3F;
+    };
+    return 0xD000 | bits(1) << 6 | bits(2);
+  }
+  const char32_t character = firstCharacter(text);
+  const bool allowed = character < 0x80 ? isAsciiOfXml(text.front()) : !isForbidden(character);
+  if (allowed) return std::nullopt;
+  return character;
 }
 
 std::string toXmlText(std::string_view text) {

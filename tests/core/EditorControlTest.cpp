@@ -307,6 +307,7 @@ class SwitchedDocuments : public platform::XmlDocumentFactory {
     if (!on) throw std::runtime_error("off");
     return documents_.readDocument(text, content);
   }
+  std::optional<platform::XmlFault> faultIn(std::string_view text) override { return documents_.faultIn(text); }
   bool on = true;
 
  private:

@@ -100,6 +100,7 @@ class SpoiltDocuments : public platform::XmlDocumentFactory {
     doIfAny(atDocument);
     return documents_.readDocument(text, content);
   }
+  std::optional<platform::XmlFault> faultIn(std::string_view text) override { return documents_.faultIn(text); }
   Mischief atDocument;
 
  private:

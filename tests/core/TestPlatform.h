@@ -57,6 +57,7 @@ class BrokenDocumentFactory : public platform::XmlDocumentFactory {
  public:
   std::unique_ptr<platform::XmlDocument> createDocument() override { throw RunTimeError(78, "no documents"); }
   bool readDocument(std::string_view, platform::XmlContent&) override { throw RunTimeError(78, "no documents"); }
+  std::optional<platform::XmlFault> faultIn(std::string_view) override { throw RunTimeError(78, "no documents"); }
 };
 
 /// A system with one error code.

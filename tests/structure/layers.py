@@ -25,6 +25,7 @@ ROOMS = {
     "panels": BELOW_PANELS,
     "control": (*BELOW_PANELS, "panels"),
     "libxml2": ("platform", "text"),
+    "headless": (*BELOW_PANELS, "libxml2"),
     "memory": (*CORE, "kit"),
     "qt": (*CORE, "kit", "libxml2"),
     "win32": (*CORE, "kit"),
@@ -35,11 +36,21 @@ ROOMS = {
 PUBLIC_FOLDER = pathlib.PurePath("include/mavCycEd")
 PUBLIC_HEADERS = {
     "document": ("Cycle.h", "CycleDocument.h", "CycleEdit.h", "ParameterText.h", "VariableDefinition.h"),
+    "rules": ("ValueFault.h", "VariableUses.h"),
+    "cycle": ("CycleFacts.h", "MacroLosses.h", "UnwritablePlace.h"),
+    "headless": ("Catalogue.h", "Configuration.h", "CycleCheck.h", "CycleReading.h", "CycleWriting.h", "ParameterRow.h",
+                 "TextFault.h"),
 }
 ROOM_OF_PUBLIC_HEADER = {header: room for room, headers in PUBLIC_HEADERS.items() for header in headers}
 
 # Single headers behind which the rest of their room stays hidden from other rooms.
 ONLY_HEADER_FOR_ROOMS = {"libxml2": "libxml2/Libxml2DocumentFactory.h"}
+
+# The headers of a lower room that a room may include where it may not include all of them: no port of a screen, here.
+SOME_HEADERS = {
+    ("document", "platform"): ("RunTimeError.h",),
+    ("rules", "platform"): ("ErrorSink.h", "RunTimeError.h", "XmlContent.h", "XmlDocument.h", "XmlNode.h"),
+}
 
 # Headers of libraries, by room. A room that is missing here has the C++ standard library only.
 LIBRARIES = {
@@ -78,7 +89,8 @@ class Check:
     def __init__(self, tree):
         self.tree = tree
         self.source_folder = tree / "src"
-        self.public_folders = sorted(self.source_folder.glob("*/include"))  # what hosts include, in angle brackets too
+        # What hosts include, in angle brackets too.
+        self.public_folders = [tree / "include", *sorted(self.source_folder.glob("*/include"))]
         self.problems = []
         self.files = {}  # file -> its includes of our own files, as (file, line)
         self.rooms = {}  # room -> room -> the first include that leads there, as "file:line"
@@ -104,11 +116,14 @@ class Check:
 
     def room_of(self, file):
         """The room that a file of src/ or a public header belongs to; None for all other files."""
-        if file.parent == self.tree / PUBLIC_FOLDER:
+        if self.is_public(file):
             return ROOM_OF_PUBLIC_HEADER.get(file.name, file.name)
         if self.source_folder not in file.parents:
             return None
         return file.relative_to(self.source_folder).parts[0]
+
+    def is_public(self, file):
+        return file.parent == self.tree / PUBLIC_FOLDER
 
     def check_file(self, file):
         room = self.room_of(file)
@@ -122,7 +137,10 @@ class Check:
             place = self.place(file, include.line)
             if target is not None:
                 self.files[file].append((target, include.line))
-                if room is not None:
+                if self.is_public(file) and not self.is_public(target):
+                    self.report(place, f'a public header may not include "{include.name}"',
+                                "it has the C++ standard headers and the other public headers only: hosts see it all")
+                elif room is not None:
                     self.check_own(place, room, target)
             elif room is not None:
                 self.check_foreign(place, file, room, include)
@@ -131,8 +149,7 @@ class Check:
         """The file of this tree that an include names; None if it names none."""
         folders = self.public_folders
         if include.quoted:
-            folders = [file.parent, self.source_folder, self.tree / "include", *folders, self.tree / "apps",
-                       self.tree / "tests", self.tree]
+            folders = [file.parent, self.source_folder, *folders, self.tree / "apps", self.tree / "tests", self.tree]
         for folder in folders:
             candidate = (folder / include.name).resolve()
             if candidate.is_file() and self.tree in candidate.parents:
@@ -147,12 +164,14 @@ class Check:
         if other == room:
             return
         self.rooms.setdefault(room, {}).setdefault(other, place)
-        is_public = target.parent == self.tree / PUBLIC_FOLDER
-        name = str(target.relative_to(self.tree / "include" if is_public else self.source_folder))
+        name = str(target.relative_to(self.tree / "include" if self.is_public(target) else self.source_folder))
         if other not in ROOMS.get(room, ()):
             allowed = ", ".join(ROOMS.get(room, ())) or "no other room"
             self.report(place, f'the room "{room}" may not include "{name}"',
                         f"it may include {allowed}: go through an interface of one of these")
+        elif target.name not in SOME_HEADERS.get((room, other), (target.name,)):
+            self.report(place, f'the room "{room}" may not include "{name}"',
+                        f'of the room "{other}" it may include {", ".join(SOME_HEADERS[room, other])}')
         elif name != ONLY_HEADER_FOR_ROOMS.get(other, name):
             self.report(place, f'"{name}" is private to its room',
                         f'include "{ONLY_HEADER_FOR_ROOMS[other]}" instead')
@@ -216,6 +235,10 @@ def self_test():
         "src/qt/Editor.cpp": '#include "qt/Editor.h"\n#include <editor/Public.h>\n#include "Editor.moc"\n',
         "src/qt/include/editor/Public.h": "#include <QWidget>\n",
         "apps/host/main.cpp": '#include <QApplication>\n#include "qt/Editor.h"\n',
+        "include/mavCycEd/Cycle.h": "#include <string>\n",
+        "include/mavCycEd/CycleReading.h": '#include "mavCycEd/Cycle.h"\n',
+        "src/document/Cycle.cpp": '#include "mavCycEd/Cycle.h"\n',
+        "src/headless/Reading.cpp": '#include "mavCycEd/CycleReading.h"\n#include "libxml2/Libxml2DocumentFactory.h"\n',
         "tests/core/Test.cpp": 'auto text = R"(\n#include "nowhere.h"\n)";\n#include "text/Strings.h"\n',
     }
     bad = [
@@ -239,10 +262,18 @@ def self_test():
         ("src/text/Strings.h", '#include "text/Bad.h"\n', "cycle between files: src/text/"),
         ("src/text/Bad.h", '#include "catalogue/cAtom.h"\n', "cycle between rooms: catalogue -> text -> catalogue"),
         ("src/qt/Bad.h", '#include "libxml2/Inner.h"\n', '"libxml2/Inner.h" is private to its room'),
+        ("include/mavCycEd/Cycle.h", '#include "text/Strings.h"\n', 'a public header may not include "text/Strings.h"'),
+        ("include/mavCycEd/Cycle.h", "#include <libxml/tree.h>\n", "may not include <libxml/tree.h>"),
+        ("include/mavCycEd/Cycle.h", '#include "mavCycEd/CycleReading.h"\n', 'the room "document" may not include'),
+        ("include/mavCycEd/New.h", "#include <string>\n", 'the room "New.h" is unknown'),
+        ("src/document/Bad.cpp", '#include "mavCycEd/CycleReading.h"\n', 'the room "document" may not include'),
+        ("src/rules/Bad.h", '#include "platform/ListBox.h"\n', 'of the room "platform" it may include ErrorSink.h'),
+        ("src/document/Bad.h", '#include "platform/XmlDocument.h"\n', 'it may include RunTimeError.h'),
     ]
     supporting = {
         "src/text/Bad.h": '#include "text/Strings.h"\n',
         "apps/host/Bad.h": "\n",
+        "src/platform/ListBox.h": "#include <string>\n",
         "src/libxml2/Inner.h": "\n",
     }
     failures = [f"the good tree is reported: {problem}" for problem in problems_of(good)]

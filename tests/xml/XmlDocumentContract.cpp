@@ -11,6 +11,7 @@ XmlDocumentContract::XmlDocumentContract()
 
 XmlNode XmlDocumentContract::load(std::string_view text) {
   EXPECT_TRUE(document().loadXML(text)) << text.substr(0, 200);
+  EXPECT_FALSE(factory().faultIn(text)) << text.substr(0, 200);
   return document().childNodes().item(0);
 }
 
@@ -25,6 +26,11 @@ void XmlDocumentContract::expectRefused(std::string_view text) {
   EXPECT_FALSE(document().loadXML(text));
   EXPECT_EQ(document().childNodes().length(), 0);
   EXPECT_EQ(document().xml(), "");
+  const auto fault = factory().faultIn(text);
+  ASSERT_TRUE(fault);
+  EXPECT_GE(fault->line, 1U);
+  EXPECT_GE(fault->column, 1U);
+  EXPECT_TRUE(fault->message.ends_with('.') || fault->message.ends_with(')')) << fault->message;
 }
 
 void XmlDocumentContract::expectWritesWhatItHolds() {

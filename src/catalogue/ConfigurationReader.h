@@ -12,9 +12,9 @@
 namespace mavCycEd {
 
 /// The configuration text that the host gave, parsed when a question first needs it.
-class Configuration {
+class ConfigurationReader {
  public:
-  explicit Configuration(platform::XmlDocumentFactory& xmlDocuments) : xmlDocuments_(xmlDocuments) {}
+  explicit ConfigurationReader(platform::XmlDocumentFactory& xmlDocuments) : xmlDocuments_(xmlDocuments) {}
 
   /// Stores the text as it is.
   void setText(std::string text);

@@ -1,4 +1,4 @@
-#include "catalogue/Configuration.h"
+#include "catalogue/ConfigurationReader.h"
 
 #include <unordered_set>
 #include <utility>
@@ -9,14 +9,14 @@ namespace mavCycEd {
 
 using platform::XmlNode;
 
-void Configuration::setText(std::string text) {
+void ConfigurationReader::setText(std::string text) {
   text_ = std::move(text);
   parsed_.reset();
   arguments_.reset();
   units_.reset();
 }
 
-XmlNode Configuration::root() {
+XmlNode ConfigurationReader::root() {
   if (text_.empty()) return {};
   if (!parsed_) {
     std::unique_ptr<platform::XmlDocument> document = xmlDocuments_.createDocument();
@@ -26,12 +26,12 @@ XmlNode Configuration::root() {
   return parsed_->selectSingleNode("Config");
 }
 
-platform::XmlNodeList Configuration::elements(std::string_view path) {
+platform::XmlNodeList ConfigurationReader::elements(std::string_view path) {
   const XmlNode config = root();
   return config ? config.selectNodes(path) : platform::XmlNodeList();
 }
 
-XmlNode Configuration::unit(const std::string& name) {
+XmlNode ConfigurationReader::unit(const std::string& name) {
   if (!units_) {
     std::unordered_map<std::string, XmlNode> units;
     for (const XmlNode& unit : elements("Units/UNIT")) {
@@ -44,7 +44,7 @@ XmlNode Configuration::unit(const std::string& name) {
   return found == units_->end() ? XmlNode() : found->second;
 }
 
-const Configuration::Arguments& Configuration::arguments() {
+const ConfigurationReader::Arguments& ConfigurationReader::arguments() {
   if (arguments_) return *arguments_;
   Arguments arguments;
   for (const XmlNode& object : elements("Arguments/OBJECT")) {
@@ -58,7 +58,7 @@ const Configuration::Arguments& Configuration::arguments() {
   return arguments_.emplace(std::move(arguments));
 }
 
-void Configuration::appendArguments(std::string_view objectName, ValueList& list) {
+void ConfigurationReader::appendArguments(std::string_view objectName, ValueList& list) {
   const auto offered = arguments().find(std::string(objectName));
   if (offered == arguments().end() || offered->second.empty()) return;
   std::unordered_set<std::string> known;

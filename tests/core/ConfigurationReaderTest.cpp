@@ -1,4 +1,4 @@
-#include "catalogue/Configuration.h"
+#include "catalogue/ConfigurationReader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ using test::element;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class ConfigurationTest : public ::testing::Test {
+class ConfigurationReaderTest : public ::testing::Test {
  protected:
   /// Takes these elements for the configuration's arguments.
   void setArguments(const std::string& objects) {
@@ -27,21 +27,21 @@ class ConfigurationTest : public ::testing::Test {
   }
 
   libxml2::Libxml2DocumentFactory xml_;
-  Configuration configuration_{xml_};
+  ConfigurationReader configuration_{xml_};
 };
 
-TEST_F(ConfigurationTest, KeepsTheTextAsItIs) {
+TEST_F(ConfigurationReaderTest, KeepsTheTextAsItIs) {
   EXPECT_EQ(configuration_.text(), "");
   configuration_.setText("no XML at all \r\n");
   EXPECT_EQ(configuration_.text(), "no XML at all \r\n");
 }
 
-TEST_F(ConfigurationTest, WithoutATextThereAreNoElementsAndNoArguments) {
+TEST_F(ConfigurationReaderTest, WithoutATextThereAreNoElementsAndNoArguments) {
   EXPECT_EQ(configuration_.elements("Units/UNIT").length(), 0);
   EXPECT_THAT(argumentsOf("TRAY"), IsEmpty());
 }
 
-TEST_F(ConfigurationTest, ATextThatDoesNotParseHasNoElementsAndNoArguments) {
+TEST_F(ConfigurationReaderTest, ATextThatDoesNotParseHasNoElementsAndNoArguments) {
   for (const char* text : {"<Config><Arguments>", "text", "<Config/><Config/>", "<Config>&</Config>"}) {
     configuration_.setText(text);
     EXPECT_EQ(configuration_.elements("Arguments").length(), 0) << text;
@@ -49,7 +49,7 @@ TEST_F(ConfigurationTest, ATextThatDoesNotParseHasNoElementsAndNoArguments) {
   }
 }
 
-TEST_F(ConfigurationTest, ElementsStandBelowTheRootConfig) {
+TEST_F(ConfigurationReaderTest, ElementsStandBelowTheRootConfig) {
   configuration_.setText("<Config><Units><UNIT>a</UNIT><Other/><UNIT>b</UNIT></Units></Config>");
   const platform::XmlNodeList units = configuration_.elements("Units/UNIT");
   ASSERT_EQ(units.length(), 2);
@@ -59,7 +59,7 @@ TEST_F(ConfigurationTest, ElementsStandBelowTheRootConfig) {
   EXPECT_EQ(configuration_.elements("Units/UNIT").length(), 0);
 }
 
-TEST_F(ConfigurationTest, ANewTextReplacesTheOldOne) {
+TEST_F(ConfigurationReaderTest, ANewTextReplacesTheOldOne) {
   setArguments("<OBJECT><OBJECTNAME>TRAY</OBJECTNAME><A>old</A></OBJECT>");
   EXPECT_THAT(argumentsOf("TRAY"), ElementsAre("old"));
   setArguments("<OBJECT><OBJECTNAME>TRAY</OBJECTNAME><A>new</A></OBJECT>");
@@ -68,19 +68,19 @@ TEST_F(ConfigurationTest, ANewTextReplacesTheOldOne) {
   EXPECT_THAT(argumentsOf("TRAY"), IsEmpty());
 }
 
-TEST_F(ConfigurationTest, EveryChildBehindTheFirstIsAnArgument) {
+TEST_F(ConfigurationReaderTest, EveryChildBehindTheFirstIsAnArgument) {
   setArguments(
       "<OBJECT><OBJECTNAME>TRAY</OBJECTNAME><ARGUMENT>one</ARGUMENT><x>two µl</x><ARGUMENT>three</ARGUMENT>"
       "</OBJECT>");
   EXPECT_THAT(argumentsOf("TRAY"), ElementsAre("one", "two µl", "three"));
 }
 
-TEST_F(ConfigurationTest, TheFirstChildIsNeverAnArgument) {
+TEST_F(ConfigurationReaderTest, TheFirstChildIsNeverAnArgument) {
   setArguments("<OBJECT><A>first</A><OBJECTNAME>TRAY</OBJECTNAME><A>last</A></OBJECT>");
   EXPECT_THAT(argumentsOf("TRAY"), ElementsAre("TRAY", "last"));
 }
 
-TEST_F(ConfigurationTest, SeveralObjectsOfTheNameAllContribute) {
+TEST_F(ConfigurationReaderTest, SeveralObjectsOfTheNameAllContribute) {
   setArguments(
       "<OBJECT><OBJECTNAME>TRAY</OBJECTNAME><A>one</A></OBJECT>"
       "<OBJECT><OBJECTNAME>RACK</OBJECTNAME><A>other</A></OBJECT>"
@@ -88,7 +88,7 @@ TEST_F(ConfigurationTest, SeveralObjectsOfTheNameAllContribute) {
   EXPECT_THAT(argumentsOf("TRAY"), ElementsAre("one", "two"));
 }
 
-TEST_F(ConfigurationTest, NamesAreComparedExactly) {
+TEST_F(ConfigurationReaderTest, NamesAreComparedExactly) {
   setArguments(
       "<OBJECT><OBJECTNAME>Tray</OBJECTNAME><A>a</A></OBJECT>"
       "<OBJECT><OBJECTNAME>TRAY </OBJECTNAME><A>b</A></OBJECT>"
@@ -97,7 +97,7 @@ TEST_F(ConfigurationTest, NamesAreComparedExactly) {
   EXPECT_THAT(argumentsOf("Tray"), ElementsAre("a"));
 }
 
-TEST_F(ConfigurationTest, AnArgumentInAnotherCaseIsNotAddedAgain) {
+TEST_F(ConfigurationReaderTest, AnArgumentInAnotherCaseIsNotAddedAgain) {
   setArguments(
       "<OBJECT><OBJECTNAME>TRAY</OBJECTNAME><A>Tray</A></OBJECT>"
       "<OBJECT><OBJECTNAME>TRAY</OBJECTNAME><A>TRAY</A><A>Größe</A><A>GRÖẞE</A><A>Лоток</A><A>ЛОТОК</A>"
@@ -105,12 +105,12 @@ TEST_F(ConfigurationTest, AnArgumentInAnotherCaseIsNotAddedAgain) {
   EXPECT_THAT(argumentsOf("TRAY"), ElementsAre("Tray", "Größe", "Лоток", "\u00B5"));
 }
 
-TEST_F(ConfigurationTest, AnArgumentThatTheListHoldsIsNotAddedAgain) {
+TEST_F(ConfigurationReaderTest, AnArgumentThatTheListHoldsIsNotAddedAgain) {
   setArguments("<OBJECT><OBJECTNAME>TRAY</OBJECTNAME><A>one</A><A>two</A></OBJECT>");
   EXPECT_THAT(argumentsOf("TRAY", {"ONE", "zero"}), ElementsAre("ONE", "zero", "two"));
 }
 
-TEST_F(ConfigurationTest, AnObjectWithoutANameEndsTheSearch) {
+TEST_F(ConfigurationReaderTest, AnObjectWithoutANameEndsTheSearch) {
   setArguments(
       "<OBJECT><OBJECTNAME>TRAY</OBJECTNAME><A>one</A></OBJECT>"
       "<OBJECT><A>nameless</A></OBJECT>"
@@ -118,12 +118,12 @@ TEST_F(ConfigurationTest, AnObjectWithoutANameEndsTheSearch) {
   EXPECT_THAT(argumentsOf("TRAY"), ElementsAre("one"));
 }
 
-TEST_F(ConfigurationTest, ElementsOtherThanObjectsAreNotSearched) {
+TEST_F(ConfigurationReaderTest, ElementsOtherThanObjectsAreNotSearched) {
   setArguments("<Thing><A>nameless</A></Thing><OBJECT><OBJECTNAME>TRAY</OBJECTNAME><A>one</A></OBJECT>");
   EXPECT_THAT(argumentsOf("TRAY"), ElementsAre("one"));
 }
 
-TEST_F(ConfigurationTest, WithoutArgumentsTheListStaysAsItIs) {
+TEST_F(ConfigurationReaderTest, WithoutArgumentsTheListStaysAsItIs) {
   configuration_.setText("<Config><Units/></Config>");
   EXPECT_THAT(argumentsOf("TRAY", {"zero"}), ElementsAre("zero"));
 }
