@@ -10,8 +10,6 @@
 #include "catalogue/CatalogueIndex.h"
 #include "catalogue/CatalogueText.h"
 #include "catalogue/ConfigurationReader.h"
-#include "platform/OptionButton.h"
-#include "platform/ValueListActiveX.h"
 #include "platform/XmlDocument.h"
 
 namespace mavCycEd {
@@ -59,13 +57,5 @@ class modCycleHelper {
   std::shared_ptr<platform::XmlDocument> catalogue_;
   std::optional<CatalogueIndex> index_;  // nothing without a catalogue
 };
-
-/// Selects the option that fits a variable's definition: the object option when its second ";"-separated field is an
-/// object name, the numeric option when it is another text. A definition without ";" changes nothing.
-void selectVariableType(std::string_view definition, platform::OptionButton& optObjValue,
-                        platform::OptionButton& optNrValue);
-
-/// Empties a settings grid for new rows.
-void resetGrid(platform::ValueListActiveX& grid);
 
 }  // namespace mavCycEd

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "mavCycEd/VariableDefinition.h"
+#include "panels/DialogSetup.h"
 #include "text/IllegalCharacters.h"
 #include "text/LineEnds.h"
 #include "text/MessageTitles.h"

@@ -11,6 +11,7 @@
 #include "TestPlatform.h"
 #include "memory/MemoryOptionButton.h"
 #include "memory/MemoryValueList.h"
+#include "panels/DialogSetup.h"
 
 namespace mavCycEd {
 namespace {
