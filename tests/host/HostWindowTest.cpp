@@ -198,6 +198,43 @@ TEST_F(HostWindowTest, ALineThatWasInsertedCanBeSaved) {
   EXPECT_FALSE(closes(QMessageBox::Cancel));
 }
 
+TEST_F(HostWindowTest, TheEditMenuTakesStepsBack) {
+  openInstrument();
+  EXPECT_FALSE(window_.openCycle(copyOfStandard()));
+  QMenu* edit = nullptr;
+  for (QMenu* const menu : window_.findChildren<QMenu*>()) {
+    if (menu->title() == QStringLiteral("&Edit")) edit = menu;
+  }
+  ASSERT_NE(edit, nullptr);
+  ASSERT_GE(edit->actions().size(), 2);
+  EXPECT_FALSE(edit->actions()[0]->isEnabled());
+  describe(QStringLiteral(" Neu."));
+  EXPECT_EQ(edit->actions()[0]->text(), QStringLiteral("&Undo Change Description"));
+  edit->actions()[0]->trigger();
+  EXPECT_FALSE(description().endsWith(QStringLiteral(" Neu.")));
+  EXPECT_EQ(edit->actions()[1]->text(), QStringLiteral("&Redo Change Description"));
+  EXPECT_TRUE(closes(QMessageBox::NoButton)) << "taken back to what was opened, it is no change";
+}
+
+TEST_F(HostWindowTest, ACycleThatCannotBeWrittenIsNotSavedAndTheReasonIsSaid) {
+  openInstrument();
+  const QByteArray cycle =
+      "<CYCLE><VARIABLES/><ATOMSEQUENCE><ATOMS><ATOM><ATOMNAME>WAIT</ATOMNAME><PARAMETERS><PARAMETER>"
+      "<PARAMNAME>Time</PARAMNAME><PARAMVALUE>a &lt; b</PARAMVALUE></PARAMETER></PARAMETERS></ATOM></ATOMS>"
+      "</ATOMSEQUENCE><VERSION>03</VERSION></CYCLE>";
+  const QString path = write("c.xml", cycle);
+  EXPECT_FALSE(window_.openCycle(path));
+  describe(QStringLiteral("An idea"));
+  Answer told(QMessageBox::Ok);
+  command("Save").trigger();
+  EXPECT_TRUE(told.said().contains(QStringLiteral("the value \"a < b\" of the parameter \"Time\" in line 1")))
+      << told.said().toStdString();
+  EXPECT_FALSE(told.said().contains(QStringLiteral("no atom lines")));
+  EXPECT_EQ(read(path), cycle);
+  EXPECT_EQ(description(), QStringLiteral("An idea"));
+  EXPECT_FALSE(closes(QMessageBox::Cancel));
+}
+
 TEST_F(HostWindowTest, AMacroTextIsNotOverwritten) {
   openInstrument();
   const QString path = write("m.txt", "[PMA]\r\n//Spülen\r\nWAIT(2.5)");
