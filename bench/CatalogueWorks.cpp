@@ -62,6 +62,21 @@ double bytesKeptBySelections(int lines, int selections) {
   return least;
 }
 
+// What the history of single-line steps takes, a step. Lines are put in and taken out, so that the cycle stays as long.
+double bytesOfAStep(int lines, int steps) {
+  const std::unique_ptr<Editor> editor = loadedEditor(cycleOf(lines));
+  memory::MemoryScreen& screen = editor->screen();
+  const auto insertAndDelete = [&] {
+    screen.cmdInset.press();
+    screen.cmdDelete.press();
+  };
+  screen.lstAtomSequence.setIndex(lines / 2);
+  insertAndDelete();  // what is made once is there now
+  const double before = bytesInUse();
+  for (int i = 0; i < steps / 2; ++i) insertAndDelete();
+  return (bytesInUse() - before) / steps;
+}
+
 }  // namespace
 
 void addCatalogueWorks() {
@@ -86,6 +101,13 @@ void addCatalogueWorks() {
              .yardstick = [lines] { return static_cast<double>(cycleOf(lines).size()); },
              .timed = false});
   }
+  constexpr double bytesAllowed = 2000;
+  compare({.work = "memory of a step to undo, of 1,000 steps of a line, against 2 kB",
+           .lines = 100000,
+           .target = 1.0,
+           .ours = [] { return bytesOfAStep(100000, 1000); },
+           .yardstick = [] { return bytesAllowed; },
+           .timed = false});
   constexpr int selections = 10000;
   compare({.work = "memory kept by 10,000 selections to and fro, against a byte each",
            .lines = 1000,

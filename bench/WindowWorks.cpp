@@ -1,3 +1,4 @@
+#include <QAction>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QListView>
@@ -54,6 +55,10 @@ class Window {
   }
   void press(const char* button) {
     QMetaObject::invokeMethod(control_.findChild<QObject*>(QLatin1String(button)), "click");
+    paint(control_);
+  }
+  void undo() {
+    control_.undoAction()->trigger();
     paint(control_);
   }
   int lines() const { return list_->model()->rowCount(); }
@@ -137,6 +142,24 @@ void addEditing(int lines) {
            .yardstick = bare});
 }
 
+// Both put a line in and take it out again, and one of the two counts.
+void addUndo(int lines) {
+  const auto window = windowWith(lines);
+  const auto insertAndUndo = [window](bool undoCounts) {
+    Window& edited = window();
+    edited.select(edited.lines() / 2);
+    const double inserting = processorSecondsOf([&] { edited.press("cmdInset"); });
+    const double undoing = processorSecondsOf([&] { edited.undo(); });
+    return undoCounts ? undoing : inserting;
+  };
+  compare({.work = "undo of an insertion in the middle, Qt edition, until painted, against the insertion",
+           .lines = lines,
+           .target = 1.2,
+           .ours = [insertAndUndo] { return insertAndUndo(true); },
+           .yardstick = [insertAndUndo] { return insertAndUndo(false); },
+           .paired = true});
+}
+
 std::function<double()> loadingAMacro(const std::function<Window&()>& windowFor, int lines) {
   return [windowFor, lines] {
     Window& window = windowFor();
@@ -158,6 +181,7 @@ std::function<double()> selecting(const std::function<Window&()>& window) {
 void addWindowWorks() {
   for (const int lines : sizes) addLoading(lines);
   for (const int lines : sizes) addEditing(lines);
+  for (const int lines : {10000, 100000}) addUndo(lines);
   const auto shortest = windowWith(sizes[0]);
   for (const int lines : {1000, 10000}) {
     compare({.work = "loading a macro text, Qt edition, 2n lines against n",
