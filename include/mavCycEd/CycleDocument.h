@@ -34,6 +34,7 @@ struct CycleNotice {
   std::vector<Range> lines;
   std::vector<Range> variables;
   bool description = false;
+  bool places = false;  ///< something that belongs to positions
 
   /// One range that covers several; `ranges` is not empty.
   static Range covering(const std::vector<Range>& ranges);
@@ -92,8 +93,7 @@ class CycleDocument {
   /// part of that. Without an edit there is no step.
   class Transaction {
    public:
-    /// With `joins`, edits go on the step of this name that was the last one, unless it has been sealed: a stretch of
-    /// typing.
+    /// A stretch of typing goes on the step of its name where that is the last one, a stretch itself and not sealed.
     enum class Kind { Step, Stretch };
     Transaction(CycleDocument& document, std::string_view stepName, CycleSelection before, Kind kind = Kind::Step);
     ~Transaction();
@@ -135,7 +135,7 @@ class CycleDocument {
   void begin(std::string_view stepName, CycleSelection before, Transaction::Kind kind);
   void end() noexcept;
   void keep(Step&& step);
-  void record(CycleEdit inverse, Revision before);
+  CycleNotice record(CycleEdit inverse, Revision before);
   void joinStretch(Step& last, Step&& more);
   CycleSelection wentTo(Revision revision, CycleSelection selection, const CycleEdit& inverse);
   void forgetHistory();
@@ -148,8 +148,9 @@ class CycleDocument {
   Revision revision_ = 0;
   Revision lastRevision_ = 0;  // the highest that was ever given
   std::deque<Step> done_;
-  std::vector<Step> undone_;
+  std::deque<Step> undone_;
   std::optional<Step> open_;
+  std::vector<CycleEdit> openEdits_;  // of the open step, each as its inverse, in the order they were made
   Transaction::Kind openKind_ = Transaction::Kind::Step;
   int depth_ = 0;  // of transactions inside each other
   int loading_ = 0;

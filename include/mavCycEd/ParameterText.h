@@ -54,6 +54,8 @@ class ParameterText {
   void append(std::string_view name, std::string_view value);
   /// A first parameter without a name becomes just its value.
   void endAppending();
+  /// No parameter is left; the room for them stays.
+  void clear() { text_.clear(); }
 
   /// The text of parameters given by name and value, in order. A parameter without a name is just its value, wherever
   /// it stands.

@@ -126,10 +126,12 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
 
   bool Undo() { return running_ == 1 && history_.Undo(); }
   bool Redo() { return running_ == 1 && history_.Redo(); }
+  bool Perform(CycleEdit edit, std::string_view stepName) {
+    return running_ == 1 && history_.Perform(std::move(edit), stepName);
+  }
   void setHistoryChanged(std::function<void()> historyChanged) { historyChanged_ = std::move(historyChanged); }
 
   const CycleState& cycle() const { return cycle_; }
-  CycleDocument& document() { return cycle_.document; }
   const GridState& grid() const { return grid_; }
 
  private:
@@ -319,7 +321,7 @@ class EditorControl::Implementation : public std::enable_shared_from_this<Implem
                             extraValues_,
                             [this] { sequenceEditing_.cboAtom_Click(); },
                             errors_};
-  EditHistory history_{cycle_, cycleScreen_, view_, errors_};
+  EditHistory history_{cycle_, cycleScreen_, grid_, view_, errors_};
 };
 
 EditorControl::EditorControl(const ControlScreen& screen, const PlatformServices& services,
@@ -370,7 +372,9 @@ void EditorControl::setHistoryChanged(std::function<void()> historyChanged) {
 }
 
 const Cycle& EditorControl::cycle() const { return implementation_->cycle().cycle(); }
-CycleDocument& EditorControl::document() { return implementation_->document(); }
+bool EditorControl::Perform(CycleEdit edit, std::string_view stepName) {
+  return implementation_->run([&, self = implementation_.get()] { return self->Perform(std::move(edit), stepName); });
+}
 cAtoms EditorControl::atoms() const {
   cAtoms atoms;
   const Cycle& cycle = this->cycle();

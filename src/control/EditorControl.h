@@ -72,8 +72,10 @@ class EditorControl {
 
   /// The cycle as it stands.
   const Cycle& cycle() const;
-  /// The document under the editor. The screen follows what anybody changes in it.
-  CycleDocument& document();
+  /// Changes the cycle as a program, in one step that the operator can take back under this name; the screen follows. A
+  /// selected line that is changed by it is shown in the grid again. False, and nothing changed, where the edit does
+  /// not fit the cycle or changes nothing, and while a procedure is running.
+  bool Perform(CycleEdit edit, std::string_view stepName);
   /// The atom lines as records, in sequence order: a copy.
   cAtoms atoms() const;
   /// What is known of the grid's parameter rows.

@@ -28,7 +28,8 @@ std::string HandBack::RetrieveCycle() {
     switch (format) {
       case Format::Old: result = writer_.RetrieveNewCycle(); break;
       case Format::New: {
-        result = differs(procedure) ? writer_.RetrieveNewCycle() : writer_.RetrieveCycleVersion03();
+        const bool changed = guarded(errors_, "CycleChanged", [&] { return differs(procedure); });
+        result = changed ? writer_.RetrieveNewCycle() : writer_.RetrieveCycleVersion03();
         break;
       }
       case Format::Unknown: break;

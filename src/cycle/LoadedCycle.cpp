@@ -130,7 +130,7 @@ class CycleContent : public platform::XmlContent {
   void startAtom() {
     atom_ = elements_;
     atomName_.reset();
-    parameters_ = {};
+    parameters_.clear();
     atomLacksElement_ = false;
   }
 
@@ -155,7 +155,7 @@ class CycleContent : public platform::XmlContent {
       return;
     }
     parameters_.endAppending();
-    loaded_.cycle.lines.push_back({std::move(*atomName_), std::move(parameters_)});
+    loaded_.cycle.lines.push_back({std::move(*atomName_), parameters_});  // a copy takes no more room than it needs
   }
 
   // The first element of an atom that lacks one.

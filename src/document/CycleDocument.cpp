@@ -17,6 +17,8 @@ CycleNotice noticeOf(const CycleEdit& inverse) {
       notice.variables.push_back({variables->at, variables->added.size(), variables->removed});
     } else if (std::holds_alternative<TextSplice>(*change)) {
       notice.description = true;
+    } else {
+      notice.places = true;
     }
   }
   return notice;
@@ -49,7 +51,7 @@ void CycleDocument::load(Cycle cycle) {
   cycle_ = std::move(cycle);
   revision_ = ++lastRevision_;
   forgetHistory();
-  tell({.loaded = true, .lines = {}, .variables = {}, .description = false});
+  tell({.loaded = true, .lines = {}, .variables = {}});
 }
 
 void CycleDocument::forgetHistory() {
@@ -57,7 +59,7 @@ void CycleDocument::forgetHistory() {
   done_.clear();
   undone_.clear();
   stretchIsOpen_ = false;
-  if (open_) open_->edit = {};
+  openEdits_.clear();
   if (had) tellHistory();
 }
 
@@ -67,34 +69,45 @@ void CycleDocument::perform(CycleEdit edit, std::string_view stepName) {
   edit.apply(cycle_);
   if (edit.empty()) return;
   revision_ = ++lastRevision_;
-  const CycleNotice notice = noticeOf(edit);
-  if (loading_ == 0) record(std::move(edit), before);
-  tell(notice);
+  tell(record(std::move(edit), before));
 }
 
-// The step that is open is led back by this edit first.
-void CycleDocument::record(CycleEdit inverse, Revision before) {
-  if (open_->edit.empty()) open_->revisionBefore = before;
-  open_->edit = std::move(inverse.then(std::move(open_->edit)));
-  open_->revisionAfter = revision_;
+// What has changed. An edit that there is no memory to keep takes all steps along: without it they lead nowhere.
+CycleNotice CycleDocument::record(CycleEdit inverse, Revision before) {
+  try {
+    CycleNotice notice = noticeOf(inverse);
+    if (loading_ > 0) return notice;
+    if (openEdits_.empty()) open_->revisionBefore = before;
+    openEdits_.push_back(std::move(inverse));
+    open_->revisionAfter = revision_;
+    return notice;
+  } catch (...) {
+    forgetHistory();
+    throw;
+  }
 }
 
 void CycleDocument::begin(std::string_view stepName, CycleSelection before, Transaction::Kind kind) {
-  if (depth_++ > 0) return;
-  open_.emplace();
-  open_->name = stepName;
-  open_->before = before;
-  open_->after = before;
-  openKind_ = kind;
+  if (depth_ == 0) {
+    Step step;
+    step.name = stepName;
+    step.before = before;
+    step.after = before;
+    open_ = std::move(step);
+    openKind_ = kind;
+  }
+  ++depth_;
 }
 
 // A step that there is no memory to keep cannot be taken back, and neither can those before it.
 void CycleDocument::end() noexcept {
   if (--depth_ > 0) return;
   Step step = *std::exchange(open_, std::nullopt);
-  if (step.edit.empty()) return;
+  std::vector<CycleEdit> edits = std::exchange(openEdits_, {});
+  if (edits.empty()) return;
   undone_.clear();
   try {
+    for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit) step.edit.then(std::move(*edit));
     keep(std::move(step));
   } catch (...) {
     done_.clear();
@@ -146,7 +159,6 @@ std::optional<std::string> CycleDocument::redoName() const {
 
 std::optional<CycleSelection> CycleDocument::undo() {
   if (done_.empty() || depth_ > 0) return std::nullopt;
-  undone_.reserve(undone_.size() + 1);
   done_.back().edit.apply(cycle_);
   undone_.push_back(std::move(done_.back()));
   done_.pop_back();
@@ -181,7 +193,7 @@ void CycleDocument::tell(const CycleNotice& notice) {
 }
 
 void CycleDocument::tellHistory() noexcept {
-  for (CycleListener* const listener : listeners_) listener->historyChanged();
+  for (std::size_t i = 0; i < listeners_.size(); ++i) listeners_[i]->historyChanged();
 }
 
 CycleDocument::Transaction::Transaction(CycleDocument& document, std::string_view stepName, CycleSelection before,

@@ -26,7 +26,8 @@ void exchange(std::vector<Item>& list, Splice<Item>& splice) {
   requireWithin(list, splice);
   const std::size_t incoming = splice.added.size();
   const std::size_t common = std::min(splice.removed, incoming);
-  if (incoming > splice.removed) list.reserve(list.size() + incoming - splice.removed);
+  const std::size_t needed = list.size() + incoming - splice.removed;
+  if (needed > list.capacity()) list.reserve(std::max(needed, 2 * list.capacity()));
   if (splice.removed > incoming) splice.added.reserve(splice.removed);
   const auto at = list.begin() + static_cast<std::ptrdiff_t>(splice.at);
   const auto behind = at + static_cast<std::ptrdiff_t>(common);
@@ -53,10 +54,12 @@ void exchange(std::string& text, TextSplice& splice) {
   splice.removed = incoming;
 }
 
-// The places are kept as far as the last one that holds something; behind them there are as many as anybody asks for.
-void exchangePlaces(std::vector<LinePlace>& places, PlaceSplice& splice) {
-  const std::size_t reached = splice.at + splice.removed;
-  if (places.size() < reached) places.resize(reached);
+// The places are kept as far as the last one that holds something; what goes behind that was nothing.
+void exchangePlaces(std::vector<LinePlace>& places, PlaceSplice& splice, std::size_t lineCount) {
+  if (splice.at > std::max(lineCount, places.size())) throw std::out_of_range("An edit reaches beyond the cycle.");
+  if (splice.at > places.size() && !splice.added.empty()) places.resize(splice.at);
+  splice.at = std::min(splice.at, places.size());
+  splice.removed = std::min(splice.removed, places.size() - splice.at);
   exchange(places, splice);
   while (!places.empty() && places.back().empty()) places.pop_back();
 }
@@ -79,7 +82,7 @@ bool changesNothing(const Cycle& cycle, const CycleEdit::Change& change) {
 
 void applyChange(Cycle& cycle, CycleEdit::Change& change) {
   std::visit(Overloaded{[&](LineSplice& splice) { exchange(cycle.lines, splice); },
-                        [&](PlaceSplice& splice) { exchangePlaces(cycle.places, splice); },
+                        [&](PlaceSplice& splice) { exchangePlaces(cycle.places, splice, cycle.lines.size()); },
                         [&](VariableSplice& splice) { exchange(cycle.variables, splice); },
                         [&](TextSplice& splice) { exchange(cycle.description, splice); }},
              change);

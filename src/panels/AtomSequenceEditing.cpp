@@ -65,7 +65,7 @@ void AtomSequenceEditing::perform(std::string_view stepName, CycleEdit edit, int
 void AtomSequenceEditing::insertBehind(int position, AtomLine line) {
   const auto at = static_cast<std::size_t>(position);
   perform(stepNames::insert, edits::insertLines(at, {std::move(line)}), position);
-  view_.lstRefresh(at, 0, 1);
+  view_.lstRefresh({{at, 0, 1}});
 }
 
 void AtomSequenceEditing::append(AtomLine line) {
@@ -101,7 +101,7 @@ void AtomSequenceEditing::cmdDelete_Click() {
     const auto at = static_cast<std::size_t>(index);
     const int next = std::min(index, left - 1);
     perform(stepNames::remove, edits::removeLines(at, 1), next);
-    view_.showLines(at, 1, 0);
+    view_.showLines({{at, 1, 0}});
     list().setIndex(next);
   });
 }

@@ -68,7 +68,7 @@ void CycleVariables::cmdDel_Click() {
   guarded(errors_, "cmdDel_Click", [this] {
     const int index = list().index();
     if (index < 0) return;
-    const std::string entry = list().itemText(index);
+    const std::string entry = cycle_.cycle().variables.at(static_cast<std::size_t>(index)).text();
     if (tellUses(entry)) return;
     cycle_.changed = true;
     extraValues_.Delete_Extra_Udons(VariableDefinition(entry));
@@ -101,7 +101,7 @@ void CycleVariables::lstVariables_DblClick() {
   guarded(errors_, "lstVariables_DblClick", [this] {
     const int index = list().index();
     if (open_ != nullptr || index < 0) return;
-    const std::string entry = list().itemText(index);
+    const std::string entry = cycle_.cycle().variables.at(static_cast<std::size_t>(index)).text();
     const bool inUse = tellUses(entry);
     if (open_ != nullptr) return;  // while the message was shown
     cycle_.changed = true;

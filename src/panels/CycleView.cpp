@@ -26,10 +26,7 @@ void CycleView::cycleChanged(const CycleNotice& notice) {
   if (shownByProcedure_ > 0) return;
   if (notice.description) screen_.txtCycleDescription.setText(cycle_.cycle().description);
   if (!notice.variables.empty()) extraValues_.followVariables();
-  if (!notice.lines.empty()) {
-    const CycleNotice::Range all = CycleNotice::covering(notice.lines);
-    lstRefresh(all.at, all.removed, all.added);
-  }
+  if (!notice.lines.empty()) lstRefresh(notice.lines);
 }
 
 // The lines are shown when all of them have been loaded.
@@ -67,20 +64,25 @@ void CycleView::follow(const CycleNotice::Range& range) {
   }
 }
 
-void CycleView::lstRefresh(std::size_t at, std::size_t removed, std::size_t added) {
-  guarded(errors_, "lstRefresh", [&] { showLines(at, removed, added); });
+void CycleView::lstRefresh(const std::vector<CycleNotice::Range>& changes) {
+  guarded(errors_, "lstRefresh", [&] { showLines(changes); });
 }
 
-void CycleView::showLines(std::size_t at, std::size_t removed, std::size_t added) {
+void CycleView::showLines(const std::vector<CycleNotice::Range>& changes) {
   platform::LineListBox& list = screen_.lstAtomSequence;
   const int before = cycle_.display.count();
-  cycle_.display.rebuildAround(at, removed, added);
-  const int moreLines = static_cast<int>(added) - static_cast<int>(removed);
+  const CycleNotice::Range all = changes.empty() ? CycleNotice::Range() : CycleNotice::covering(changes);
+  cycle_.display.rebuildAround(all.at, all.removed, all.added);
+  const int moreLines = static_cast<int>(all.added) - static_cast<int>(all.removed);
   const bool listFollows = before > 0 && list.itemCount() == before && cycle_.display.count() == before + moreLines;
-  if (listFollows) {
-    list.spliced(static_cast<int>(at), static_cast<int>(removed), static_cast<int>(added));
-  } else {
+  if (!listFollows) {
     list.showLines(cycle_.display);
+  } else if (changes.empty()) {
+    list.spliced(0, 0, 0);  // the same lines, at other indents
+  } else {
+    for (const CycleNotice::Range& each : changes) {
+      list.spliced(static_cast<int>(each.at), static_cast<int>(each.removed), static_cast<int>(each.added));
+    }
   }
 }
 

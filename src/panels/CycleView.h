@@ -1,5 +1,8 @@
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "panels/CycleState.h"
 #include "panels/ExtraValues.h"
 #include "platform/ErrorSink.h"
@@ -20,11 +23,11 @@ class CycleView : public CycleListener {
   /// Whether the history has changed since this was asked last.
   bool takeHistoryChanged() { return std::exchange(historyHasChanged_, false); }
 
-  /// Shows the lines anew after `added` lines have come in place of `removed` at `at`, indented in their blocks. The
-  /// selection follows its line.
-  void lstRefresh(std::size_t at, std::size_t removed, std::size_t added);
+  /// Shows the lines anew after these changes, in their order, indented in their blocks. The selection follows its
+  /// line, where the list has shown all lines so far.
+  void lstRefresh(const std::vector<CycleNotice::Range>& changes);
   /// The same as a part of another procedure.
-  void showLines(std::size_t at, std::size_t removed, std::size_t added);
+  void showLines(const std::vector<CycleNotice::Range>& changes);
 
   /// A line that is followed through the changes, -1 for none: it is none any more when it has gone or was changed.
   void followLine(int line) { followed_ = line; }

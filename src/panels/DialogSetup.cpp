@@ -1,15 +1,17 @@
 #include "panels/DialogSetup.h"
 
+#include <string>
+
 #include "catalogue/CatalogueText.h"
-#include "text/Strings.h"
+#include "mavCycEd/VariableDefinition.h"
 
 namespace mavCycEd {
 
 void selectVariableType(std::string_view definition, platform::OptionButton& optObjValue,
                         platform::OptionButton& optNrValue) {
-  const auto fields = text::split(definition, ';');
-  if (fields.size() < 2) return;
-  (isObjectName(fields[1]) ? optObjValue : optNrValue).select();
+  const VariableDefinition variable{std::string(definition)};
+  const auto values = variable.valueFields();
+  if (!values.empty()) (isObjectName(values.front()) ? optObjValue : optNrValue).select();
 }
 
 void resetGrid(platform::ValueListActiveX& grid) {

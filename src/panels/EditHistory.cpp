@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace mavCycEd {
 
@@ -12,7 +13,7 @@ bool EditHistory::go(std::string_view procedure, const Go& goThere) {
     const std::optional<CycleSelection> selection = goThere();
     if (!selection) return false;
     cycle_.changed = true;
-    view_.lstRefresh(0, 0, 0);  // also a line that stands at the margin since it was replaced
+    view_.lstRefresh({});  // also a line that stands at the margin since it was replaced
     select(*selection);
     return true;
   });
@@ -26,13 +27,31 @@ bool EditHistory::Redo() {
   return go("Redo", [this] { return cycle_.document.redo(); });
 }
 
+bool EditHistory::Perform(CycleEdit edit, std::string_view stepName) {
+  return go("Perform", [&]() -> std::optional<CycleSelection> {
+    const CycleSelection before = screen_.selection();
+    const CycleDocument::Revision revision = cycle_.document.revision();
+    CycleDocument::Transaction step(cycle_.document, stepName, before);
+    cycle_.document.perform(std::move(edit));
+    if (cycle_.document.revision() == revision) return std::nullopt;
+    const int followed = view_.followedLine();
+    const CycleSelection after{followed >= 0 ? followed : before.line, screen_.lstVariables.index()};
+    step.setAfter(after);
+    return after;
+  });
+}
+
+// No value is checked on the way into the grid: it may be that of an atom nobody knows, in an edit that is open.
 void EditHistory::select(CycleSelection wanted) {
   platform::ListBox& variables = screen_.lstVariables;
   const int variable = std::min(wanted.variable, variables.itemCount() - 1);
   if (variables.index() != variable) variables.setIndex(variable);
   platform::ListBox& lines = screen_.lstAtomSequence;
   const int line = std::min(wanted.line, lines.itemCount() - 1);
-  if (view_.followedLine() != line || lines.index() != line) lines.setIndex(line);
+  if (view_.followedLine() == line && lines.index() == line) return;
+  const bool ready = std::exchange(grid_.ready, false);
+  lines.setIndex(line);
+  grid_.ready = ready;
 }
 
 }  // namespace mavCycEd

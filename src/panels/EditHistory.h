@@ -4,6 +4,7 @@
 
 #include "panels/CycleState.h"
 #include "panels/CycleView.h"
+#include "panels/GridState.h"
 #include "platform/ErrorSink.h"
 
 namespace mavCycEd {
@@ -13,12 +14,15 @@ namespace mavCycEd {
 /// was selected before and has not changed: what is typed there stays.
 class EditHistory {
  public:
-  EditHistory(CycleState& cycle, const CycleScreen& screen, CycleView& view, ErrorSink& errors)
-      : cycle_(cycle), screen_(screen), view_(view), errors_(errors) {}
+  EditHistory(CycleState& cycle, const CycleScreen& screen, GridState& grid, CycleView& view, ErrorSink& errors)
+      : cycle_(cycle), screen_(screen), grid_(grid), view_(view), errors_(errors) {}
 
   /// False where there is no step.
   bool Undo();
   bool Redo();
+  /// Carries out an edit that no command of the screen makes, as one step. False where it does not fit the cycle, or
+  /// changes nothing.
+  bool Perform(CycleEdit edit, std::string_view stepName);
 
  private:
   template <typename Go>
@@ -27,6 +31,7 @@ class EditHistory {
 
   CycleState& cycle_;
   CycleScreen screen_;
+  GridState& grid_;
   CycleView& view_;
   ErrorSink& errors_;
 };

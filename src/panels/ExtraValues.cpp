@@ -82,7 +82,6 @@ void ExtraValues::offerFirst(std::size_t variables) {
 
 void ExtraValues::followVariables() {
   guarded(errors_, "Update_Extra_Params", [this] {
-    if (grdAtom_.cellText(0, 1).empty()) return;
     std::vector<std::string> before;
     for (int row = 1; row <= lastRow(); ++row) {
       ParamRowInfo& info = state_.rows.row(row);

@@ -94,7 +94,7 @@ std::string SequenceDisplay::text(int index) const {
 int SequenceDisplay::longest() const {
   int longest = -1;
   std::size_t most = 0;
-  for (std::size_t i = 0; i < shown_.size(); ++i) {
+  for (std::size_t i = 0; i < std::min(shown_.size(), cycle_.lines.size()); ++i) {
     const std::size_t size = static_cast<std::size_t>(shown_[i].indent) + cycle_.lines[i].name.size();
     if (longest >= 0 && size <= most) continue;
     longest = static_cast<int>(i);

@@ -46,13 +46,13 @@ class AtomSequenceEditingTest : public ::testing::Test {
   void numberPositions() {
     for (std::size_t i = 0; i < editor_.control().cycle().lines.size(); ++i) {
       const std::string number = std::to_string(i + 1);
-      editor_.control().document().perform(edits::setPlace(i, {"d" + number, "g" + number}));
+      editor_.control().Perform(edits::setPlace(i, {"d" + number, "g" + number}), "Mark");
     }
   }
   void setParameters(std::size_t index, const char* parameters) {
     AtomLine line = editor_.control().cycle().lines[index];
     line.parameters = ParameterText(parameters);
-    editor_.control().document().perform(edits::replaceLine(index, line));
+    editor_.control().Perform(edits::replaceLine(index, line), "Change");
   }
   std::vector<std::string> durations() {
     std::vector<std::string> result;

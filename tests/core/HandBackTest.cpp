@@ -223,7 +223,7 @@ TEST_F(HandBackTest, ResettingTheCycleLeavesScreenAndBaseline) {
 
 TEST_F(HandBackTest, ACycleThatCannotBeWrittenIsHandedBackEmpty) {
   load(version03());
-  editor_.control().document().perform(edits::replaceLine(0, {"R&D", {}}));
+  editor_.control().Perform(edits::replaceLine(0, {"R&D", {}}), "Change");
   EXPECT_FALSE(changed()) << "nothing is written that could differ";
   EXPECT_EQ(retrieve(), "");
   ASSERT_EQ(editor_.errors.size(), 1U) << "told by whoever found it first";
@@ -234,8 +234,8 @@ TEST_F(HandBackTest, ACycleThatCannotBeWrittenIsHandedBackEmpty) {
 
 TEST_F(HandBackTest, ASpoiledCycleIsToldOnceForEachStateOfIt) {
   load(version03());
-  CycleDocument& document = editor_.control().document();
-  document.perform(edits::replaceLine(0, {"A", ParameterText("Amount;<")}));
+  EditorControl& control = editor_.control();
+  control.Perform(edits::replaceLine(0, {"A", ParameterText("Amount;<")}), "Change");
   retrieve();
   retrieve();
   changed();
@@ -243,8 +243,8 @@ TEST_F(HandBackTest, ASpoiledCycleIsToldOnceForEachStateOfIt) {
   EXPECT_EQ(editor_.errors.front().strProcedure, "RetrieveCycle ");
   EXPECT_THAT(editor_.errors.front().strError,
               ::testing::HasSubstr("the value \"<\" of the parameter \"Amount\" in line 1"));
-  document.perform(edits::insertVariable(0, VariableDefinition("a&b;T")));
-  document.perform(edits::replaceLine(0, {"A", {}}));
+  control.Perform(edits::insertVariable(0, VariableDefinition("a&b;T")), "Change");
+  control.Perform(edits::replaceLine(0, {"A", {}}), "Change");
   changed();
   ASSERT_EQ(editor_.errors.size(), 2U);
   EXPECT_THAT(editor_.errors.back().strError, ::testing::HasSubstr("the variable \"a&b;T\""));

@@ -216,12 +216,15 @@ rc::Gen<std::vector<Step>> steps() { return resize(40, rc::gen::container<std::v
 rc::Gen<std::vector<Step>> stepsOnAll() { return resize(40, rc::gen::container<std::vector<Step>>(stepOnAll())); }
 
 void markPositions(TestEditor& editor) {
-  const CycleDocument::Loading loading(editor.control().document());
+  CycleEdit marks;
   for (std::size_t i = 0; i < editor.control().cycle().lines.size(); ++i) {
     const std::string number = std::to_string(i + 1);
-    editor.control().document().perform(edits::setPlace(i, {"d" + number, "g" + number}));
+    marks.then(edits::setPlace(i, {"d" + number, "g" + number}));
   }
+  editor.control().Perform(std::move(marks), markStep);
 }
+
+bool undoUnlessMark(TestEditor& editor) { return editor.control().undoText() != markStep && editor.control().Undo(); }
 
 void perform(const Step& step, TestEditor& editor) {
   memory::MemoryScreen& screen = editor.screen();
@@ -259,7 +262,7 @@ void perform(const Step& step, TestEditor& editor) {
       if (variableCount > 0) screen.lstVariables.doubleClick(step.number % variableCount);
       break;
     case Step::Kind::DropVariable: screen.cmdDel.press(); break;
-    case Step::Kind::Undo: editor.control().Undo(); break;
+    case Step::Kind::Undo: undoUnlessMark(editor); break;
     case Step::Kind::Redo: editor.control().Redo(); break;
   }
   screen.variableDialogs.setUser({});

@@ -4,6 +4,7 @@
 
 #include <iosfwd>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "TestDocuments.h"
@@ -57,8 +58,12 @@ rc::Gen<std::vector<Step>> steps();
 /// Up to 40 steps on all of a cycle, without handing it back.
 rc::Gen<std::vector<Step>> stepsOnAll();
 
-/// Gives every position of the loaded cycle something that stays there: a duration and a group index.
+/// Gives every position of the loaded cycle something that stays there: a duration and a group index. It is a step of
+/// this name, which the random steps leave alone.
 void markPositions(TestEditor& editor);
+inline constexpr std::string_view markStep = "Mark";
+/// Takes the last step back, unless it is that one. Whether there was such a step.
+bool undoUnlessMark(TestEditor& editor);
 /// Does what a step says, where there is something to do it with.
 void perform(const Step& step, TestEditor& editor);
 

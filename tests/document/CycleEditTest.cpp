@@ -56,7 +56,7 @@ TEST(CycleEdit, AppliedTwiceLeadsBack) {
   edit.then(edits::replaceLine(0, line("Z")))
       .then(edits::insertVariable(1, VariableDefinition("W;T")))
       .then(edits::changeDescription("one", "two"))
-      .then(edits::setPlace(5, {"5", ""}));
+      .then(edits::setPlace(1, {"5", ""}));
   edit.apply(cycle);
   EXPECT_NE(cycle, before);
   const Cycle after = cycle;
@@ -75,13 +75,14 @@ TEST(CycleEdit, BeyondTheCycleChangesNothing) {
   EXPECT_EQ(cycle, before);
   EXPECT_THROW(edits::insertLines(2, {line("B")}).apply(cycle), std::out_of_range);
   EXPECT_THROW(edits::removeLines(0, static_cast<std::size_t>(-1)).apply(cycle), std::out_of_range);
+  EXPECT_THROW(edits::setPlace(4'000'000'000, {"1", ""}).apply(cycle), std::out_of_range);
 }
 
 TEST(CycleEdit, ThatChangesNothingIsEmptyWhenItHasBeenApplied) {
   Cycle cycle = cycleOf({"A"});
   cycle.description = "text";
   CycleEdit edit = edits::replaceLine(0, line("A"));
-  edit.then(edits::setPlace(3, {})).then(edits::changeDescription("text", "text"));
+  edit.then(edits::setPlace(1, {})).then(edits::changeDescription("text", "text"));
   edit.apply(cycle);
   EXPECT_TRUE(edit.empty());
 }

@@ -31,8 +31,8 @@ CycleEdit anyEdit(const Cycle& cycle) {
     case 0: return edits::insertLines(line, someLines());
     case 1: return edits::removeLines(line, lines);
     case 2: return CycleEdit(LineSplice{line, lines, someLines()});
-    case 3: return edits::setPlace(upTo(5), {*shortText(), ""});
-    case 4: return edits::setPlace(upTo(5), {});
+    case 3: return edits::setPlace(line, {*shortText(), ""});
+    case 4: return edits::setPlace(line, {});
     case 5: return edits::insertVariable(variable, VariableDefinition(*shortText()));
     case 6: return CycleEdit(VariableSplice{variable, std::min<std::size_t>(cycle.variables.size() - variable, 1), {}});
     default:
