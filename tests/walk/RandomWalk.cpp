@@ -147,6 +147,7 @@ bool RandomWalk::canDo(const char* direction) const {
 // Single steps, or all the way back.
 std::string RandomWalk::stepInHistory() {
   goesBack_ = upTo(9) == 0;
+  if (goesBack_) return "CycleChanged";  // asked on the way, it must not be answered from there at the end
   if (upTo(2) > 0 && canDo("undo")) return "undo";
   return canDo("redo") ? "redo" : "tick";
 }

@@ -3,7 +3,9 @@
 import json
 import re
 
-INVALID_XML = -2147220991  # the error event of a catalogue that cannot be used
+INVALID_XML = -2147220991  # the error event of a catalogue that cannot be used, and of a cycle that cannot be written
+# What the members that write the cycle answer when it cannot be written.
+NOTHING_WRITTEN = {"CycleChanged ": {"CycleChanged": False}, "RetrieveCycle ": {"RetrieveCycle": ""}}
 
 
 def lines_problem(shown):
@@ -107,7 +109,8 @@ class HistoryRules:
 def broken_rule(output, steps, code):
     """The first rule that a walk's output breaks, as a text; empty when it breaks none."""
     shown = {}
-    errors = 0
+    unusable = 0
+    wanted = None  # the next line
     history = HistoryRules()
     showing = {step for step in steps if step.startswith("show ")}
     step = iter(steps)
@@ -122,10 +125,14 @@ def broken_rule(output, steps, code):
 
     for line in output:
         name, value = next(iter(json.loads(line).items()))
+        if wanted not in (None, {name: value}):
+            return f"a cycle that cannot be written is handed back: {line}"
+        wanted = None
         if name == "CycleEditorError":
-            errors += 1
             if value["lngError"] != INVALID_XML:
                 return f"an error event: {line}"
+            wanted = NOTHING_WRITTEN.get(value["strProcedure"])
+            unusable += wanted is None
         if name == "CycleChanged":
             go_on_to(name)
             problem = history.problem_of_changed(value)
@@ -144,7 +151,7 @@ def broken_rule(output, steps, code):
             problem = history.problem_of_shown(shown)
             if problem:
                 return f"{problem}: {line}"
-    unusable = sum(step.startswith(('SetXMLStrings "" ', 'SetXMLStrings "<LATESTKAM>" ')) for step in steps)
-    if code == 0 and errors != unusable:
-        return f"{unusable} catalogues cannot be used: {errors} error events"
+    loads = sum(step.startswith(('SetXMLStrings "" ', 'SetXMLStrings "<LATESTKAM>" ')) for step in steps)
+    if code == 0 and unusable != loads:
+        return f"{loads} catalogues cannot be used: {unusable} error events"
     return ""
