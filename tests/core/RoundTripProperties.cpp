@@ -71,7 +71,8 @@ RC_GTEST_PROP(HandedBackCycle, ReadsChangedAfterAnotherDescription, ()) {
   const std::string before = editor.screen().txtCycleDescription.text();
   editor.screen().txtCycleDescription.replace(before + "x");
   RC_ASSERT(editor.control().CycleChanged());
-  editor.screen().txtCycleDescription.replace(before);
+  editor.control().Undo();
+  RC_ASSERT(editor.screen().txtCycleDescription.text() == before);
   RC_ASSERT(!editor.control().CycleChanged());
 }
 
