@@ -33,7 +33,7 @@ SOURCES = {
     "src/text/MessageTitles.h": set(),
 }
 SHOWS_MESSAGES = re.compile(r"[.>]messageBox\(")
-FOLDERS_OF_SOURCES = ("src/catalogue", "src/control", "src/cycle", "src/panels")
+FOLDERS_OF_SOURCES = ("src/catalogue", "src/control", "src/cycle", "src/panels", "src/rules")
 # Forwards to the service, and has no texts of its own.
 NO_TEXTS = {"src/control/modMsgBox.h"}
 
@@ -224,7 +224,7 @@ def self_test(tree):
          "out of range or invalid step"),
         ("src/panels/frmparams.cpp", "Empty parameter name", "No parameter name", 'the text "No parameter name"'),
         ("src/panels/ValueValidation.cpp", "'&<>;,", "'&<>;,?", "ValueValidation.cpp is missing"),
-        ("src/cycle/CycleLoader.cpp", "void CycleLoader::FillCycle() {", "void f() { m.messageBox(0); ",
+        ("src/panels/CycleLoader.cpp", "void CycleLoader::FillCycle() {", "void f() { m.messageBox(0); ",
          "it shows messages"),
         ("src/control/ScreenStart.cpp", "&Replace", "&Exchange", 'the caption "&Exchange" is nowhere'),
         ("src/panels/frmparams.cpp", '"Modify Parameter"', '"Change it"', 'the caption "Change it" is nowhere'),
