@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "kit/Notify.h"
 #include "win32/ComboLine.h"
 #include "win32/Dpi.h"
 #include "win32/Text.h"
@@ -48,9 +49,9 @@ class CellEditor::Line : public NativeWindow {
 
   void onPosted(int what) override {
     if (what == Left) {
-      tell(editor_.events_.left);
+      kit::tell(editor_.events_.left);
     } else if (editor_.hasUntoldTyping()) {
-      tell(editor_.events_.typed);
+      kit::tell(editor_.events_.typed);
     }
   }
 
@@ -79,7 +80,7 @@ class CellEditor::Combo : public NativeWindow {
     post(Picked);
   }
 
-  void onPosted(int) override { tell(editor_.events_.picked, picked_); }
+  void onPosted(int) override { kit::tell(editor_.events_.picked, picked_); }
 
  private:
   CellEditor& editor_;

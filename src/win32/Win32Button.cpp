@@ -1,5 +1,6 @@
 #include "win32/Win32Button.h"
 
+#include "kit/Notify.h"
 #include "win32/Dpi.h"
 #include "win32/Text.h"
 
@@ -24,7 +25,7 @@ void Win32Button::onCommand(int notification) {
 void Win32Button::onPosted(int) {
   const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
-  if (alive && isEnabledHere()) tell(events_.Click);
+  if (alive && isEnabledHere()) kit::tell(events_.Click);
 }
 
 }  // namespace mavCycEd::win32

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "kit/Notify.h"
 #include "platform/RunTimeError.h"
 #include "text/LineEnds.h"
 #include "win32/ComboLine.h"
@@ -50,12 +51,12 @@ std::string Win32ComboBox::itemText(int index) const {
 
 void Win32ComboBox::setIndex(int index) {
   show(index, index == -1 ? std::string() : itemText(index));
-  tell(events_.Click);
+  kit::tell(events_.Click);
 }
 
 void Win32ComboBox::setText(std::string_view text) {
   show(places_.of(text, items_), std::string(text));
-  tell(events_.Click);
+  kit::tell(events_.Click);
 }
 
 void Win32ComboBox::show(int index, std::string text) {
@@ -156,7 +157,7 @@ void Win32ComboBox::onCommand(int notification) {
 
 void Win32ComboBox::onPosted(int what) {
   if (what == MaybeLeft) {
-    if (hasLostFocusToControl(handle())) tell(events_.LostFocus);
+    if (hasLostFocusToControl(handle())) kit::tell(events_.LostFocus);
     return;
   }
   const int picked = std::exchange(picked_, -1);
@@ -164,7 +165,7 @@ void Win32ComboBox::onPosted(int what) {
   show(picked, itemText(picked));
   const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
-  if (alive) tell(events_.Click);
+  if (alive) kit::tell(events_.Click);
 }
 
 void Win32ComboBox::onDraw(const DRAWITEMSTRUCT& item) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "kit/Notify.h"
 #include "win32/Dpi.h"
 #include "win32/Text.h"
 
@@ -73,7 +74,7 @@ void Win32ListBox::fitWidth() {
 void Win32ListBox::setIndex(int index) {
   selection_.select(index == -1 ? index : texts().checked(index));
   showSelection();
-  tell(events_.Click);
+  kit::tell(events_.Click);
 }
 
 platform::Font Win32ListBox::font() const { return itemFont_.value_or(asFont(systemFont(dpi_), dpi_)); }
@@ -130,13 +131,13 @@ void Win32ListBox::choose(int index) {
 void Win32ListBox::raiseClick() {
   const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
-  if (alive) tell(events_.Click);
+  if (alive) kit::tell(events_.Click);
 }
 
 void Win32ListBox::doubleClick() {
   const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
-  if (alive && index() >= 0) tell(events_.DblClick);
+  if (alive && index() >= 0) kit::tell(events_.DblClick);
 }
 
 std::optional<LRESULT> Win32ListBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -168,8 +169,8 @@ std::optional<LRESULT> Win32ListBox::onMessage(UINT message, WPARAM wParam, LPAR
 std::optional<LRESULT> Win32ListBox::onKey(UINT message, WPARAM wParam, LPARAM lParam) {
   const bool control = GetKeyState(VK_CONTROL) < 0;
   switch (wParam) {
-    case VK_DELETE: tell(onDelete_); return 0;
-    case VK_RETURN: tell(onReturn_); return 0;
+    case VK_DELETE: kit::tell(onDelete_); return 0;
+    case VK_RETURN: kit::tell(onReturn_); return 0;
     case VK_SPACE:
       if (control) {
         if (index() >= 0) choose(-1);

@@ -1,11 +1,12 @@
 #include "win32/Win32ModalDialog.h"
 
+#include "kit/Notify.h"
 #include "win32/Text.h"
 
 namespace mavCycEd::win32 {
 
 Win32ModalDialog::Win32ModalDialog(HWND owner) : window_(owner) {
-  window_.setClosing([this] { tell(events_.Close); });
+  window_.setClosing([this] { kit::tell(events_.Close); });
 }
 
 void Win32ModalDialog::setCaption(std::string_view caption) {

@@ -1,5 +1,6 @@
 #include "win32/Win32OptionButton.h"
 
+#include "kit/Notify.h"
 #include "win32/Dpi.h"
 #include "win32/Text.h"
 
@@ -34,7 +35,7 @@ void Win32OptionButton::show() {
 
 void Win32OptionButton::select() {
   show();
-  tell(events_.Click);
+  kit::tell(events_.Click);
 }
 
 void Win32OptionButton::onCommand(int notification) {
@@ -46,7 +47,7 @@ void Win32OptionButton::onPosted(int) {
   show();
   const kit::Lifeline::Watch alive = lifeline_.watch();
   gate_.pass();
-  if (alive) tell(events_.Click);
+  if (alive) kit::tell(events_.Click);
 }
 
 }  // namespace mavCycEd::win32

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include "kit/Notify.h"
 #include "win32/MenuList.h"
 #include "win32/Text.h"
 
@@ -55,7 +56,7 @@ void Win32PopupMenu::open() {
   const std::optional<int> chosen = hasMany() ? chooseFromList(owner, place) : chooseFromMenu(owner, place);
   if (!alive || !chosen || changed_) return;
   gate_.pass();
-  if (alive && !changed_) tell(events().Click, indexes[static_cast<std::size_t>(*chosen)]);
+  if (alive && !changed_) kit::tell(events().Click, indexes[static_cast<std::size_t>(*chosen)]);
 }
 
 std::optional<int> Win32PopupMenu::chooseFromMenu(HWND owner, POINT place) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "kit/CaretPlace.h"
+#include "kit/Notify.h"
 #include "text/LineEnds.h"
 #include "win32/Text.h"
 
@@ -123,9 +124,9 @@ void Win32TextBox::onCommand(int notification) {
 
 void Win32TextBox::onPosted(int what) {
   if (what == Changed) {
-    tell(events_.Change);
+    kit::tell(events_.Change);
   } else if (hasLostFocusToControl(handle())) {
-    tell(events_.LostFocus);
+    kit::tell(events_.LostFocus);
   }
 }
 
