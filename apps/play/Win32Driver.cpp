@@ -246,6 +246,7 @@ std::optional<std::vector<std::string>> Win32Driver::askForMenu(std::string_view
   auto& control = controls_.use<Win32ValueList>(grid);
   const POINT place = Win32GridHands(control).pixelsOf(x, y);
   SendMessageW(control.view().handle(), WM_RBUTTONDOWN, MK_RBUTTON, at(place));
+  settle();  // no hand is so quick that what the press posts, such as a box that was left, comes behind the release
   SendMessageW(control.view().handle(), WM_RBUTTONUP, 0, at(place));
   settle();
   const Win32PopupMenu* const shown = openMenu();
