@@ -17,10 +17,15 @@ std::function<Editor&()> editorWith(int lines) {
   };
 }
 
-// Replaces a line in the middle by itself: an edit like any other.
+// Changes a line in the middle, to and fro.
 void changeOneLine(Editor& editor) {
-  editor.screen().lstAtomSequence.setIndex(editor.screen().lstAtomSequence.itemCount() / 2);
-  editor.screen().cmdReplace.press();
+  const auto& lines = editor.control().cycle().lines;
+  const std::size_t middle = lines.size() / 2;
+  AtomLine line = lines[middle];
+  std::string parameters = line.parameters.text();
+  if (!parameters.empty()) parameters.back() = parameters.back() == '1' ? '2' : '1';
+  line.parameters = ParameterText(std::move(parameters));
+  editor.control().Perform(edits::replaceLine(middle, std::move(line)), "Change");
 }
 
 void addLoading(int lines) {

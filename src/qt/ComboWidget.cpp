@@ -53,6 +53,12 @@ void ComboWidget::focusOutEvent(QFocusEvent* event) {
 
 void ComboWidget::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Shift) return QComboBox::keyPressEvent(event);
+  // Ctrl and a letter find no item: they are for whoever has a meaning for them.
+  if (!isEditable() && (event->modifiers() & Qt::ControlModifier) != 0 && !event->text().isEmpty()) {
+    typeAhead_.restart();
+    event->ignore();
+    return;
+  }
   if (isEditable() || !typeAhead(*event)) {
     typeAhead_.restart();
     QComboBox::keyPressEvent(event);

@@ -182,8 +182,9 @@ TEST_F(Undo, AnOpenCellStaysOpenWhileALineThatIsNotSelectedComesBack) {
   describe("text");
   QTableView& grid = widget<QTableView>("GrdAtom");
   grid.setFocus();
-  QTest::keyClicks(&grid, QStringLiteral("42"));
+  QTest::keyClicks(&grid, QStringLiteral("4"));
   QPointer<QWidget> line = QApplication::focusWidget();
+  QTest::keyClicks(line, QStringLiteral("2"));
   control.undoAction()->trigger();
   EXPECT_EQ(description(), "");
   ASSERT_FALSE(line.isNull());
