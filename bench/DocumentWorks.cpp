@@ -20,10 +20,11 @@ std::function<Editor&()> editorWith(int lines) {
 // Changes a line in the middle, to and fro.
 void changeOneLine(Editor& editor) {
   const auto& lines = editor.control().cycle().lines;
-  const std::size_t middle = lines.size() / 2;
+  std::size_t middle = lines.size() / 2;
+  while (lines[middle].parameters.empty()) ++middle;
   AtomLine line = lines[middle];
   std::string parameters = line.parameters.text();
-  if (!parameters.empty()) parameters.back() = parameters.back() == '1' ? '2' : '1';
+  parameters.back() = parameters.back() == '1' ? '2' : '1';
   line.parameters = ParameterText(std::move(parameters));
   editor.control().Perform(edits::replaceLine(middle, std::move(line)), "Change");
 }
