@@ -13,7 +13,9 @@ bool EditHistory::go(std::string_view procedure, const Go& goThere) {
     const std::optional<CycleSelection> selection = goThere();
     if (!selection) return false;
     cycle_.changed = true;
-    view_.lstRefresh({});  // also a line that stands at the margin since it was replaced
+    // A line may stand at the margin since it was replaced, and after a load that failed no line is shown.
+    const bool isShown = screen_.lstAtomSequence.itemCount() == cycle_.display.count();
+    if (!isShown || !cycle_.display.isAsRebuilt()) view_.lstRefresh({});
     select(*selection);
     return true;
   });

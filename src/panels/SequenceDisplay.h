@@ -33,6 +33,8 @@ class SequenceDisplay : public platform::ListLines {
   /// No line is shown; the current indent is 1.
   void clear();
 
+  /// Whether every line stands where a rebuild() would put it.
+  bool isAsRebuilt() const { return followsBlocks_ && shown_.size() == cycle_.lines.size(); }
   /// The indent at which the next line appended would be shown.
   int currentIndent() const { return currentIndent_; }
 
