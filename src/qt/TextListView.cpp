@@ -57,7 +57,6 @@ TextListView::TextListView(ListModel* model, QWidget* parent) : QListView(parent
   setTextElideMode(Qt::ElideNone);
   setHorizontalScrollMode(ScrollPerPixel);
   setAutoScroll(false);  // bringIntoView() does it, once for any number of changes
-  connect(model, &ListModel::dataChanged, this, [this] { scheduleDelayedItemsLayout(); });
 }
 
 int TextListView::selectedRow() const {
