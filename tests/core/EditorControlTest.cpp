@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "ScreenParts.h"
 #include "TestDocuments.h"
 #include "TestEditor.h"
 
@@ -95,27 +96,7 @@ TEST(EditorControlStart, CopiesTheFontsOfGridAndVariables) {
   FontGrid grid;
   FontList variables;
   const ControlScreen made = screen.controls();
-  const EditorControl control({.fraCyclePart = made.fraCyclePart,
-                               .fraDescription = made.fraDescription,
-                               .txtCycleDescription = made.txtCycleDescription,
-                               .fraAtom = made.fraAtom,
-                               .lstAtomSequence = made.lstAtomSequence,
-                               .cmdInset = made.cmdInset,
-                               .cmdReplace = made.cmdReplace,
-                               .cmdDelete = made.cmdDelete,
-                               .fraVariables = made.fraVariables,
-                               .lstVariables = variables,
-                               .cmdIns = made.cmdIns,
-                               .cmdDel = made.cmdDel,
-                               .fraSelectedMacro = made.fraSelectedMacro,
-                               .cboAtom = made.cboAtom,
-                               .GrdAtom = grid,
-                               .cmdDefault = made.cmdDefault,
-                               .mnuSubParam = made.mnuSubParam,
-                               .tmrUpdateGrid = made.tmrUpdateGrid,
-                               .tmrTypingPause = made.tmrTypingPause,
-                               .variableDialogs = made.variableDialogs},
-                              platform.services(), {});
+  const EditorControl control(test::withParts(made, {variables, grid, made.tmrUpdateGrid}), platform.services(), {});
   EXPECT_EQ(grid.cells, grid.font());
   EXPECT_EQ(variables.items, variables.font());
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ScreenParts.h"
 #include "TestDocuments.h"
 #include "TestPlatform.h"
 #include "catalogue/AtomListProvider.h"
@@ -137,26 +138,7 @@ struct SpoiltScreen : memory::MemoryScreen {
 
   ControlScreen spoiltControls() {
     const ControlScreen made = controls();
-    return {.fraCyclePart = made.fraCyclePart,
-            .fraDescription = made.fraDescription,
-            .txtCycleDescription = made.txtCycleDescription,
-            .fraAtom = made.fraAtom,
-            .lstAtomSequence = made.lstAtomSequence,
-            .cmdInset = made.cmdInset,
-            .cmdReplace = made.cmdReplace,
-            .cmdDelete = made.cmdDelete,
-            .fraVariables = made.fraVariables,
-            .lstVariables = made.lstVariables,
-            .cmdIns = made.cmdIns,
-            .cmdDel = made.cmdDel,
-            .fraSelectedMacro = made.fraSelectedMacro,
-            .cboAtom = made.cboAtom,
-            .GrdAtom = spoiltGrid,
-            .cmdDefault = made.cmdDefault,
-            .mnuSubParam = made.mnuSubParam,
-            .tmrUpdateGrid = spoiltTimer,
-            .tmrTypingPause = made.tmrTypingPause,
-            .variableDialogs = made.variableDialogs};
+    return test::withParts(made, {made.lstVariables, spoiltGrid, spoiltTimer});
   }
 };
 
